@@ -1,0 +1,11 @@
+#include "formats/LibraryValues.h"
+
+namespace Traces {
+
+LibraryValues& Library()
+{
+    thread_local LibraryValues values;
+    return values;
+}
+
+} // namespace Traces
