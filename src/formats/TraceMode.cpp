@@ -9,7 +9,7 @@ namespace Traces {
 
 namespace {
 
-struct ModeRow {
+struct NameRow {
     std::uint8_t Code;
     std::string_view Name;
     std::string_view TraceType;
@@ -35,7 +35,7 @@ constexpr SaveFilter
 
 // A distance sweep of the return loss is "CL" to hosts, not "RL": they tell traces apart by it. Files of the
 // channel scanner are named without an extension.
-constexpr ModeRow Modes[] = {
+constexpr NameRow Modes[] = {
     {TraceMode::RLFrequency,        "RL Frequency",                   "RL",   ".VNA",  VNAFilter},
     {TraceMode::SWRFrequency,       "SWR Frequency",                  "SWR",  ".VNA",  VNAFilter},
     {TraceMode::CableLossFrequency, "Cable Loss Frequency",           "CL",   ".VNA",  VNAFilter},
@@ -57,18 +57,20 @@ constexpr ModeRow Modes[] = {
 };
 // clang-format on
 
-const ModeRow* FindMode(std::uint8_t mode)
+const NameRow* FindNames(std::uint8_t mode)
 {
     const auto* row = std::find_if(std::begin(Modes), std::end(Modes),
-                                   [&](const ModeRow& candidate) { return candidate.Code == mode; });
+                                   [&](const NameRow& candidate) { return candidate.Code == mode; });
     return row != std::end(Modes) ? row : nullptr;
 }
 
 } // namespace
 
+bool IsNamedMode(int mode) { return mode >= 0 && mode <= 255 && FindNames(static_cast<std::uint8_t>(mode)) != nullptr; }
+
 std::string ModeName(std::uint8_t mode)
 {
-    const ModeRow* row = FindMode(mode);
+    const NameRow* row = FindNames(mode);
     return row ? std::string(row->Name) : "Unknown(" + HexByte(mode) + ")";
 }
 
@@ -79,7 +81,7 @@ std::uint8_t ModeCode(std::string_view name)
     // saved files count on the 0 and set the mode themselves.
     if (name == "57" || name == "87")
         return 0;
-    for (const ModeRow& row : Modes) {
+    for (const NameRow& row : Modes) {
         const bool foundByName = row.Code != TraceMode::ChannelScanner && row.Code != TraceMode::Spectrogram;
         if (foundByName && row.Name == name)
             return row.Code;
@@ -91,19 +93,19 @@ std::uint8_t ModeCode(std::string_view name)
 
 std::string_view TraceTypeName(std::uint8_t mode)
 {
-    const ModeRow* row = FindMode(mode);
+    const NameRow* row = FindNames(mode);
     return row ? row->TraceType : std::string_view{};
 }
 
 std::string_view ModeExtension(std::uint8_t mode)
 {
-    const ModeRow* row = FindMode(mode);
+    const NameRow* row = FindNames(mode);
     return row ? row->Extension : std::string_view{};
 }
 
 SaveFilter ModeSaveFilter(std::uint8_t mode)
 {
-    const ModeRow* row = FindMode(mode);
+    const NameRow* row = FindNames(mode);
     return row ? row->Filter : SaveFilter{};
 }
 

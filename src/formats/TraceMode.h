@@ -26,6 +26,9 @@ struct SaveFilter {
     std::string_view DefaultExtension; ///< "vna"
 };
 
+/// Whether the code has a row of names.
+bool IsNamedMode(int mode);
+
 /// "RL Frequency" and so on; "Unknown(" two hexadecimal digits ")" for a code outside the table.
 std::string ModeName(std::uint8_t mode);
 
