@@ -3,6 +3,7 @@
 #include "control/Control.h"
 #include "formats/HostFault.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Traces {

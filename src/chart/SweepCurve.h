@@ -1,6 +1,7 @@
 // The curve of a frequency sweep in slot 0: the record's values against evenly spaced frequencies.
 #pragma once
 
+#include <cstdint>
 #include <span>
 
 namespace Traces {

@@ -11,7 +11,7 @@ Label::Label(std::string_view name, ChartSurface& parent) : Name(name), Parent(p
     parent.labels.push_back(this);
 }
 
-ChartSurface::ChartSurface(std::string_view name, ChartSurface* parent, const Screen& screenFacts)
+ChartSurface::ChartSurface(std::string_view name, ChartSurface* parent, const Traces::Screen& screenFacts)
     : Name(name), Parent(parent), screen(screenFacts)
 {
     if (parent != nullptr)

@@ -13,7 +13,7 @@ namespace Traces {
 /// A view of a host's bytes; it doesn't own them.
 class RawBuffer {
 public:
-    explicit RawBuffer(std::span<const std::uint8_t> bytes) : bytes(bytes) {}
+    explicit RawBuffer(std::span<const std::uint8_t> trace) : bytes(trace) {}
 
     /// The same for a text that holds one byte a character.
     static RawBuffer FromText(std::string_view text);

@@ -18,7 +18,7 @@ struct LineFields {
 class TraceText {
 public:
     /// Indexes the text, which must outlive this object.
-    explicit TraceText(std::string_view text);
+    explicit TraceText(std::string_view whole);
 
     /// The value of the first line, from the second on, that begins with the key: what stands between the
     /// first tab behind it and the next carriage return. Empty when no line does. When no tab follows in
@@ -65,8 +65,8 @@ private:
     /// line end again and again, and a hostile file could have none for megabytes.
     class NextCharacter {
     public:
-        explicit NextCharacter(char character) : character(character) {}
-        std::size_t From(std::string_view text, std::size_t place) const;
+        explicit NextCharacter(char wanted) : character(wanted) {}
+        std::size_t From(std::string_view whole, std::size_t place) const;
 
     private:
         char character;

@@ -37,7 +37,7 @@ void DrawFrameTexts(Control& control)
     const std::string points = NumberText(control.Header.DataPoints) + " Points";
 
     // The title has always been measured without its hyphen.
-    put("??-" + control.TraceName, Centred(control, "??" + control.TraceName), 4);
+    put("?\?-" + control.TraceName, Centred(control, "?\?" + control.TraceName), 4);
     // A constant: the record's calibration status doesn't reach the frame.
     put("Cal Off", 2, 24);
     put(points, Centred(control, points), 24);
