@@ -3,8 +3,10 @@
 // FormatValue.h.
 #pragma once
 
+#include <cmath>
 #include <concepts>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,8 +19,9 @@ std::string NumberText(std::int32_t value);
 std::string NumberText(std::int16_t value);
 std::string NumberText(std::uint8_t value);
 
-/// Plain text with 7 significant digits for a float, 15 for a double: the shortest of plain and
-/// exponent form by the rule of printf's %G, without trailing zeros ("0.5", "1.234568E+07", "1E-06").
+/// Plain text with 7 significant digits for a float, 15 for a double, in plain or exponent form by the
+/// rule of printf's %G, without trailing zeros ("0.5", "1.234568E+07", "1E-06"). A negative zero is
+/// "-0"; what is no number is "NAN", and infinities are "INF" and "-INF".
 std::string NumberText(float value);
 std::string NumberText(double value);
 
@@ -30,23 +33,37 @@ void AppendNumberText(std::string& text, float value);
 std::string SignedNumberText(std::int32_t value);
 
 /// The number that a text begins with, 0 when there is none; never fails. Blanks, tabs and line feeds
-/// between characters are skipped; reading stops at the first other character. "&h" and "&o" read the
-/// rest as hexadecimal or octal. Upload encoders use it: a missing key counts as 0.
+/// between characters are skipped; reading stops at the first other character. An exponent counts when
+/// digits follow its letter (E or D). "&h" and "&o" in front, without a sign, read the rest as
+/// hexadecimal or octal; unlike StrictNumber they never give a negative number, "&hFFFF" is 65535. The
+/// result is finite: a number too large for a double gives the largest one. Upload encoders use it: a
+/// missing key counts as 0.
 double ValueOf(std::string_view text);
 
 template <class T>
 concept StrictTarget = std::same_as<T, std::uint8_t> || std::same_as<T, std::int16_t> ||
-                       std::same_as<T, std::int32_t> || std::same_as<T, float> || std::same_as<T, double>;
+    std::same_as<T, std::int32_t> || std::same_as<T, float> || std::same_as<T, double>;
 
 /// The number that the whole text is, or nothing: for an empty text, for one that isn't a number, for a
 /// value out of the range of T. Text loaders use it: a field whose text fails keeps its value. Halves
-/// round to the nearest even integer; commas separate digits of the integer part; blanks may surround;
-/// "&h" and "&o" are two's complement when they have just the digits of a signed T.
+/// round to the nearest even integer, a value too small for a float or double to 0. Commas may stand
+/// between digits of the integer part, in any grouping; blanks, and nothing else, may surround; "5." and
+/// ".5" are numbers. "&h" and "&o" in front, without a sign, make it hexadecimal or octal; "&h" is two's
+/// complement when it has just the digits of a signed T, 4 or 8 ("&hFFFF" is -1 for 16 bits, 65535 for 32).
 template <StrictTarget T>
 std::optional<T> StrictNumber(std::string_view text);
 
 /// The nearest integer, halves to even, or nothing when it doesn't fit T (or isn't a number at all).
 template <std::integral T>
-std::optional<T> RoundTo(double value);
+std::optional<T> RoundTo(double value)
+{
+    constexpr auto largest = std::numeric_limits<T>::max();
+    constexpr double beyond = 2 * static_cast<double>(largest / 2 + 1); // a power of two, so exact
+    constexpr auto smallest = static_cast<double>(std::numeric_limits<T>::min());
+    const double rounded = std::nearbyint(value);
+    if (rounded >= smallest && rounded < beyond)
+        return static_cast<T>(rounded);
+    return std::nullopt;
+}
 
 } // namespace Traces

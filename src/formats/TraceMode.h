@@ -26,14 +26,20 @@ struct SaveFilter {
     std::string_view DefaultExtension; ///< "vna"
 };
 
+/// Whether the code has a row of names.
+bool IsNamedMode(int mode);
+
 /// "RL Frequency" and so on; "Unknown(" two hexadecimal digits ")" for a code outside the table.
 std::string ModeName(std::uint8_t mode);
 
-/// The code of a mode's name. The channel scanner and the spectrogram aren't found by name: their text
-/// loaders set the mode themselves.
+/// The code of exactly this name. The channel scanner and the spectrogram aren't found by name and read as
+/// 0: their text loaders set the mode themselves. Any other text reads as the decimal number in it, even
+/// though ModeName wrote hexadecimal digits there: "Unknown(31)" is 31, "Unknown(1A)" is 1; 0 when there is
+/// none from 0 to 255.
 std::uint8_t ModeCode(std::string_view name);
 
-/// Short family name for hosts ("RL", "SPA"); empty for modes without one.
+/// Short family name for hosts ("RL", "SPA"); empty for modes without one. Hosts depend on a distance
+/// sweep of the return loss being "CL".
 std::string_view TraceTypeName(std::uint8_t mode);
 
 /// ".VNA" and so on; empty for modes that are saved without one.

@@ -1,0 +1,109 @@
+#include "chart/ChartView.h"
+
+#include "control/Control.h"
+
+#include <algorithm>
+
+namespace Traces {
+
+namespace {
+
+constexpr int Divisions = 10;
+
+/// The places of grid lines from one end to the other. Rounding decides whether the last one is drawn.
+template <class Draw>
+void ForEachDivision(float from, float to, Draw draw)
+{
+    const float step = (to - from) / Divisions;
+    float place = from;
+    for (int line = 0; line <= Divisions && place <= to; ++line, place += step)
+        draw(place);
+}
+
+Colour MarkerColour(const Control& control, const MarkerSet& markers, int marker)
+{
+    if (marker == markers.DraggedMarker)
+        return RGB(255, 150, 150);
+    // The highlight follows the CDMA family's selection in every family.
+    if (marker == control.CDMAMarkers.SelectedMarker)
+        return RGB(255, 185, 185);
+    return RGB(180, 255, 255);
+}
+
+} // namespace
+
+void BeginView(ChartSurface& holder, ChartSurface& box)
+{
+    holder.AutoRedraw = true;
+    box.AutoRedraw = true;
+    box.Cls();
+    holder.Cls();
+    box.Refresh();
+}
+
+void EndView(ChartSurface& holder, ChartSurface& box)
+{
+    holder.AutoRedraw = false;
+    box.AutoRedraw = false;
+}
+
+void ScaleBox(ChartSurface& box, const ChartWindow& window)
+{
+    constexpr double sliver = 1.005;
+    box.ScaleWidth = static_cast<float>(static_cast<double>(window.Xmax - window.Xmin) * sliver);
+    box.ScaleLeft = window.Xmin;
+    box.ScaleHeight = -(window.Ymax - window.Ymin);
+    box.ScaleTop = window.Ymax;
+}
+
+void DrawCurves(const Control& control, ChartSurface& box)
+{
+    box.DrawStyle = LineStyle::Solid;
+    for (std::size_t t = 0; t < LiveSlots; ++t) {
+        const TraceSlot& slot = control.TraceSlots[t];
+        for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i)
+            box.Line(slot.X[i - 1], slot.Y[i - 1], slot.X[i], slot.Y[i], control.TraceColors[t]);
+    }
+}
+
+void DrawGraticule(const Control& control, ChartSurface& box, const ChartWindow& window)
+{
+    const float bottom = box.ScaleTop + box.ScaleHeight;
+    const float right = box.ScaleLeft + box.ScaleWidth;
+    box.DrawStyle = LineStyle::Dotted;
+    ForEachDivision(window.Xmin, window.Xmax,
+                    [&](float x) { box.Line(x, box.ScaleTop, x, bottom, control.GridColor); });
+    ForEachDivision(window.Ymin, window.Ymax,
+                    [&](float y) { box.Line(box.ScaleLeft, y, right, y, control.GridColor); });
+}
+
+void DrawMarkerLines(Control& control, ChartSurface& box, MarkerSet& markers)
+{
+    const TraceSlot& slot = control.TraceSlots[0];
+    const auto last = static_cast<std::int16_t>(std::max<std::size_t>(slot.X.size(), 1) - 1);
+    box.DrawStyle = LineStyle::Dashed;
+    for (std::size_t i = 0; i < MarkerCount; ++i) {
+        markers.MarkerIndex[i] = std::clamp<std::int16_t>(markers.MarkerIndex[i], 0, last);
+        if (!markers.MarkerOn[i] || slot.X.empty())
+            continue;
+        const int marker = static_cast<int>(i);
+        const float x = marker == markers.DraggedMarker ? markers.MarkerX[i]
+                                                        : slot.X[static_cast<std::size_t>(markers.MarkerIndex[i])];
+        box.Line(x, box.ScaleTop, x, box.ScaleTop + box.ScaleHeight, MarkerColour(control, markers, marker));
+    }
+    box.DrawStyle = LineStyle::Solid;
+}
+
+bool DrawChart(Control& control, ChartSurface& box, MarkerSet& markers)
+{
+    const ChartWindow window = ChooseWindow(control);
+    if (window.Xmin == window.Xmax || window.Ymin == window.Ymax)
+        return false;
+    ScaleBox(box, window);
+    DrawCurves(control, box);
+    DrawGraticule(control, box, window);
+    DrawMarkerLines(control, box, markers);
+    return true;
+}
+
+} // namespace Traces

@@ -1,0 +1,97 @@
+#include "chart/ChartWindow.h"
+
+#include "control/Control.h"
+#include "formats/HostFault.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Traces {
+
+namespace {
+
+/// Width of a label step for a range of `whole` units of its decade. 8 and 10 divide by two, 9 doesn't:
+/// charts have been labelled so all along.
+float StepUnits(float whole)
+{
+    constexpr float units[] = {1, 0.2F, 0.25F, 0.5F, 0.5F, 1, 1, 1, 2, 1, 2, 2};
+    return whole >= 1 && whole <= 11 ? units[static_cast<int>(whole)] : 1;
+}
+
+} // namespace
+
+bool TraceExtent(const TraceSlot& slot, ChartWindow& window)
+{
+    if (slot.X.empty()) {
+        window = {};
+        return false;
+    }
+    const auto used = std::clamp<std::ptrdiff_t>(slot.Length, 1, static_cast<std::ptrdiff_t>(slot.X.size()));
+    const auto [xmin, xmax] = std::minmax_element(slot.X.begin(), slot.X.begin() + used);
+    const auto [ymin, ymax] = std::minmax_element(slot.Y.begin(), slot.Y.begin() + used);
+    window = {*xmin, *xmax, *ymin, *ymax};
+    return window.Ymax > window.Ymin && window.Xmax > window.Xmin;
+}
+
+void NiceRange(float& ymin, float& ymax, float& step, bool round)
+{
+    double span = static_cast<double>(ymax - ymin);
+    if (!(span > 0) || !std::isfinite(span)) {
+        ymin = -1;
+        ymax = 1;
+        step = 2;
+        return;
+    }
+    int decade = 0;
+    for (; span < 1; ++decade)
+        span *= 10;
+    for (; span >= 10; --decade)
+        span /= 10;
+    const double p = std::pow(10.0, decade);
+    // The products count in single precision, so that an end of 0.1 is 0.1 and not a little more.
+    constexpr double almostOne = 0.9999999999;
+    const double a = std::floor(static_cast<double>(static_cast<float>(p * static_cast<double>(ymin))));
+    const double b = std::floor(static_cast<double>(static_cast<float>(p * static_cast<double>(ymax))) + almostOne);
+    step = static_cast<float>(static_cast<double>(StepUnits(static_cast<float>(b - a))) / p);
+    if (round) {
+        ymin = static_cast<float>(a / p);
+        ymax = static_cast<float>(b / p);
+    }
+}
+
+void PadZoomRange(ChartWindow& zoom, float top, float bottom)
+{
+    constexpr float narrowest = 0.1F;
+    const float limits = top - bottom;
+    if (limits / 100 > zoom.Ymax - zoom.Ymin) {
+        zoom.Ymin -= limits / 200;
+        zoom.Ymax += limits / 200;
+    }
+    if (narrowest > zoom.Xmax - zoom.Xmin) {
+        zoom.Xmin -= narrowest / 2;
+        zoom.Xmax += narrowest / 2;
+    }
+}
+
+ChartWindow ChooseWindow(const Control& control)
+{
+    ChartWindow window;
+    if (control.ZoomActive && control.ZoomX2 > control.ZoomX1) {
+        window = {control.ZoomX1, control.ZoomX2, control.ZoomY1, control.ZoomY2};
+        PadZoomRange(window, control.YScaleTop, control.YScaleBottom);
+    } else {
+        const bool extends = TraceExtent(control.TraceSlots[0], window);
+        if (extends && (control.AutoScaleY || !(control.YScaleBottom < control.YScaleTop))) {
+            float step = 0;
+            NiceRange(window.Ymin, window.Ymax, step, control.AutoScaleY);
+        } else {
+            window.Ymax = control.YScaleTop;
+            window.Ymin = control.YScaleBottom;
+        }
+    }
+    if (!std::isfinite(window.Xmax - window.Xmin) || !std::isfinite(window.Ymax - window.Ymin))
+        throw HostFault(FaultKind::Overflow, "the curve has values that no axis holds");
+    return window;
+}
+
+} // namespace Traces

@@ -1,0 +1,131 @@
+#include "control/Control.h"
+
+#include "formats/HostFault.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Traces {
+
+namespace {
+
+constexpr Colour PaleYellow = 0xC0FFFF;
+constexpr Colour DefaultBackColor = 0x808080;
+
+/// A curve that a host sees when it makes a view current before any trace.
+void FillDemonstrationCurve(Control& control)
+{
+    constexpr std::int16_t points = 64;
+    SetSlotLength(control, 0, points);
+    TraceSlot& slot = control.TraceSlots[0];
+    for (std::size_t i = 0; i < slot.X.size(); ++i) {
+        slot.X[i] = static_cast<float>(i) / 3.0F;
+        slot.Y[i] = std::sin(slot.X[i]) * std::exp(-slot.X[i] / 5.0F);
+    }
+}
+
+void SetColours(Control& control)
+{
+    for (ChartSurface* holder : {&control.CDMAHolder, &control.EvDOHolder, &control.GPSiDENHolder})
+        holder->BackColor = PaleYellow;
+    control.idenHolder.BackColor = DefaultBackColor;
+    for (ChartSurface* box : control.ChartBoxes())
+        box->BackColor = Black;
+    for (ChartSurface* box : {&control.ErrorsBox, &control.idenbox1, &control.idenbox2, &control.idenbox3})
+        box->BackColor = Black;
+    // The stored background property, as a new control has it.
+    control.Surface.BackColor = DefaultBackColor;
+    for (ChartSurface* holder :
+         {&control.VNAHolder, &control.SPAHolder, &control.PMHolder, &control.GPSiDENHolder, &control.ZephraHolder,
+          &control.CDMAHolder, &control.EvDOHolder, &control.CSHolder, &control.E1T1Holder, &control.GSMHolder,
+          &control.ParamBox, &control.SpectroHolder})
+        holder->BackColor = DefaultBackColor;
+}
+
+void Initialize(Control& control)
+{
+    FillDemonstrationCurve(control);
+    for (std::size_t slot = 1; slot < LiveSlots; ++slot) {
+        control.TraceSlots[slot].X.resize(1);
+        control.TraceSlots[slot].Y.resize(1);
+    }
+    control.VNAMarkers.Holder = &control.VNAHolder;
+    control.SPAMarkers.Holder = &control.SPAHolder;
+    control.E1T1Markers.Holder = &control.E1T1Holder;
+    control.GSMMarkers.Holder = &control.GSMHolder;
+    control.CDMAMarkers.Holder = &control.CDMAHolder;
+    control.EvDOMarkers.Holder = &control.EvDOHolder;
+    control.SpectroMarkers.Holder = &control.SpectroHolder;
+    SetColours(control);
+    for (ChartSurface* holder : control.Holders())
+        holder->Visible = false;
+    control.ParamBox.Visible = false;
+    for (ChartSurface* box : {&control.idenbox1, &control.idenbox2, &control.idenbox3})
+        box->Visible = false;
+    for (Label* label : {&control.VNACoords, &control.SPACoords, &control.CSCoords, &control.SpectroCoords,
+                         &control.E1T1Coords, &control.GSMCoords, &control.CDMACoords, &control.EvDOCoords,
+                         &control.EvDOSubCoords, &control.iDenCoords})
+        label->Caption = "Coordinates";
+}
+
+} // namespace
+
+Control::Control(Traces::Platform& platform, const Traces::Families& families)
+    : ChildControls(static_cast<const Screen&>(*this)), Platform(platform), Families(families)
+{
+    TwipsPerPixelX = platform.TwipsPerPixelX();
+    TwipsPerPixelY = platform.TwipsPerPixelY();
+    Metrics = &platform.Metrics();
+    Initialize(*this);
+    constexpr int designWidth = 550;
+    constexpr int designHeight = 480;
+    Resize(*this, designWidth, designHeight);
+}
+
+const ModeRow* Families::FindMode(int mode) const
+{
+    const auto row = std::find_if(Modes.begin(), Modes.end(), [&](const ModeRow& each) { return each.Mode == mode; });
+    return row == Modes.end() ? nullptr : &*row;
+}
+
+const FileKind* Families::FindFileKind(std::string_view extension) const
+{
+    const auto kind =
+        std::find_if(Files.begin(), Files.end(), [&](const FileKind& each) { return each.Extension == extension; });
+    return kind == Files.end() ? nullptr : &*kind;
+}
+
+const ModeRow* CurrentRow(const Control& control) { return control.Families.FindMode(control.CurrentMode); }
+
+void SetSlotLength(Control& control, std::size_t slot, std::int16_t length)
+{
+    TraceSlot& curve = control.TraceSlots[slot];
+    curve.Length = length;
+    if (length < 1)
+        throw HostFault(FaultKind::Range, "a curve needs at least one point");
+    curve.X.resize(static_cast<std::size_t>(length));
+    curve.Y.resize(static_cast<std::size_t>(length));
+}
+
+void Clear(Control& control)
+{
+    for (ChartSurface* box : control.ChartBoxes())
+        box->Erase();
+    for (std::size_t slot = 0; slot < LiveSlots; ++slot)
+        control.TraceSlots[slot].Length = 0;
+}
+
+void RedrawTrace(Control& control)
+{
+    for (ChartSurface* holder : control.Holders())
+        holder->Visible = false;
+    const ModeRow* row = CurrentRow(control);
+    if (row == nullptr || row->View == nullptr)
+        return;
+    if (row->Holder != nullptr)
+        (control.*row->Holder).Visible = true;
+    row->View(control);
+    control.Platform.Repaint();
+}
+
+} // namespace Traces

@@ -1,0 +1,81 @@
+// The instance record: everything that one control holds, as plain fields. Views, decoders and the mouse
+// work on it; Plot is what a host sees of it.
+#pragma once
+
+#include "control/ChildControls.h"
+#include "control/MarkerSet.h"
+#include "control/ModeRow.h"
+#include "control/Platform.h"
+#include "formats/TraceHeader.h"
+#include "modes/vna_spa/VNARecord.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Traces {
+
+/// A curve. X and Y have the same size; Length is how much of it counts.
+struct TraceSlot {
+    std::int16_t Length = 0;
+    std::vector<float> X; ///< in the mode's unit, MHz for sweeps
+    std::vector<float> Y;
+};
+
+enum class MyBorderStyles { pbflat = 0, pbInset = 1, pbRaised = 2 };
+
+inline constexpr std::size_t LiveSlots = 6; ///< slots that SetIndex reaches and views draw
+
+struct Control : private Screen, public ChildControls {
+    /// The platform and the families outlive the control.
+    Control(Traces::Platform& platform, const Traces::Families& families);
+
+    Traces::Platform& Platform;
+    const Traces::Families& Families;
+
+    std::array<TraceSlot, 81> TraceSlots;
+    std::array<Colour, LiveSlots> TraceColors = {0xFFFF,           0xFF,           0xFF00,
+                                                 RGB(0, 255, 255), RGB(255, 255, 0), RGB(255, 0, 255)};
+    MyBorderStyles BorderStyle = MyBorderStyles::pbflat;
+    std::int16_t SetIndex = 0; ///< 0 to 5
+    Colour ForeColor = Black;
+    bool AutoScaleY = false;
+    std::string TraceName; ///< title suffix of every view
+    std::int16_t TraceNum = 0;
+    bool ShowParams = false;
+    bool IDENWideLayout = false;
+    bool AllowPopupMenu = true;
+    Colour GridColor = RGB(200, 200, 200);
+    float YScaleTop = 0, YScaleBottom = 0; ///< manual limits of the chart
+    std::int16_t GSMViewMode = 0, CDMAViewMode = 0, EvDOViewMode = 0;
+    bool ZoomActive = false;
+    float ZoomX1 = 0, ZoomX2 = 0, ZoomY1 = 0, ZoomY2 = 0; ///< chart units
+    MarkerSet VNAMarkers, SPAMarkers, E1T1Markers, GSMMarkers, CDMAMarkers, EvDOMarkers, SpectroMarkers;
+    TraceHeader Header;
+    VNARecord VNA;
+    std::int16_t CurrentMode = -1; ///< what RedrawTrace shows; -1 until the first trace is accepted
+    bool DisplayMarkerValues = true;
+    bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed
+
+    Traces::Screen& ScreenFacts() { return *this; }
+};
+
+/// The row of the mode on show, null when there is none.
+const ModeRow* CurrentRow(const Control& control);
+
+/// Gives a slot a length and sizes its arrays, keeping what fits.
+/// @throws HostFault Range for a length below 1.
+void SetSlotLength(Control& control, std::size_t slot, std::int16_t length);
+
+/// Empties the chart boxes and the live slots. Holders, their texts, records and markers stay.
+void Clear(Control& control);
+
+/// The one way to the screen: shows the holder of CurrentMode, hides the others, draws the view.
+void RedrawTrace(Control& control);
+
+/// Size logic for a size in device pixels, 1 at least: user system, font scale, layout of all child
+/// controls, redraw.
+void Resize(Control& control, int width, int height);
+
+} // namespace Traces

@@ -1,0 +1,64 @@
+// The form of a mode's row: the functions that its family gives to the control. The rows themselves are in
+// ModeTable.h; adding a family adds rows there and changes nothing here.
+#pragma once
+
+#include "control/ChildControls.h"
+#include "formats/RawBuffer.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Traces {
+
+struct Control;
+
+/// What a measurement mode does. A null function means that the mode has no such route.
+struct ModeRow {
+    std::uint8_t Mode;
+
+    /// The holder that a redraw shows for this mode.
+    ChartSurface ChildControls::*Holder;
+
+    /// Fills the family's record and the parameter list from a raw trace.
+    void (*Decode)(Control& control, const RawBuffer& buffer);
+
+    /// After Decode, for a trace that is to be shown: curve slot 0 and limits.
+    /// @throws HostFault where the trace's own numbers make the curve impossible.
+    void (*FillCurve)(Control& control);
+
+    /// Appends the mode's lines to the parameter list.
+    void (*Params)(Control& control);
+
+    /// Draws the holder from the decoded state.
+    void (*View)(Control& control);
+
+    /// Upload frames, from the record on show and from a raw file's bytes.
+    /// @throws HostFault for a value or a position that the frame can't hold.
+    std::string (*EncodeRecord)(const Control& control);
+    std::string (*EncodeRaw)(std::string_view file);
+};
+
+/// What an extension of text trace files stands for.
+struct FileKind {
+    std::string_view Extension; ///< upper case, without the point
+
+    /// Verifies and loads a file's text; `path` serves the checksum when no temporary file can be made.
+    void (*Load)(Control& control, std::string_view text, const std::string& path);
+
+    /// Upload frame of a file's text; null when such files aren't uploaded.
+    std::string (*EncodeText)(std::string_view text);
+};
+
+/// All modes and file kinds that a control knows.
+struct Families {
+    std::span<const ModeRow> Modes;
+    std::span<const FileKind> Files;
+
+    /// Null when no family has the mode or the extension.
+    const ModeRow* FindMode(int mode) const;
+    const FileKind* FindFileKind(std::string_view extension) const;
+};
+
+} // namespace Traces

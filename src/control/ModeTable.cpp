@@ -1,0 +1,34 @@
+#include "control/ModeTable.h"
+
+#include "formats/TraceMode.h"
+#include "modes/vna_spa/VNATrace.h"
+#include "modes/vna_spa/VNAView.h"
+
+namespace Traces {
+
+namespace {
+
+constexpr auto VNAHolder = &ChildControls::VNAHolder;
+
+// clang-format off
+const ModeRow Modes[] = {
+    // mode                          holder     decode          curve         params     view          encoders: record, raw
+    {TraceMode::RLFrequency,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
+    {TraceMode::SWRFrequency,       VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
+    {TraceMode::CableLossFrequency, VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
+    {TraceMode::RLDistance,         VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
+    {TraceMode::SWRDistance,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
+    // Comes from text files alone: no raw buffer of this mode is decoded, saved or sent.
+    {TraceMode::VNAUnnamed,         VNAHolder, nullptr,        nullptr,      VNAParams, DrawVNATrace, nullptr,         nullptr},
+};
+
+const FileKind Files[] = {
+    {"VNA", LoadVNAText, EncodeVNAText},
+};
+// clang-format on
+
+} // namespace
+
+const Families AllFamilies = {Modes, Files};
+
+} // namespace Traces

@@ -1,0 +1,134 @@
+#include "control/Plot.h"
+
+#include "chart/SweepCurve.h"
+#include "control/Control.h"
+#include "control/ModeTable.h"
+#include "control/TraceEntry.h"
+#include "control/TraceFile.h"
+#include "control/Upload.h"
+#include "formats/HostFault.h"
+#include "formats/Text.h"
+#include "formats/TraceMode.h"
+#include "modes/vna_spa/VNATrace.h"
+
+#include <cstdlib>
+
+namespace Traces {
+
+namespace {
+
+/// A host's text as a raw buffer. Texts are counted in 16 bits, and none can be empty.
+RawBuffer BufferOfText(std::string_view text)
+{
+    constexpr std::size_t longest = 32767;
+    if (text.size() > longest)
+        throw HostFault(FaultKind::Overflow, "a trace in a text holds at most 32767 characters");
+    if (text.empty())
+        throw HostFault(FaultKind::Range, "the text of a trace is empty");
+    return RawBuffer::FromText(text);
+}
+
+std::vector<std::string> LinesOf(const ParameterList& list)
+{
+    std::vector<std::string> lines;
+    lines.reserve(list.ListCount());
+    for (std::size_t i = 0; i < list.ListCount(); ++i)
+        lines.emplace_back(list.List(i));
+    return lines;
+}
+
+} // namespace
+
+Plot::Plot(Traces::Platform& platform) : control(std::make_unique<Control>(platform, AllFamilies)) {}
+Plot::~Plot() = default;
+
+bool Plot::ShowTrace(std::span<const std::uint8_t> BinaryBuffer)
+{
+    return Traces::ShowTrace(*control, RawBuffer(BinaryBuffer));
+}
+
+bool Plot::DisplayTrace(std::string_view StringBuffer) { return Traces::ShowTrace(*control, BufferOfText(StringBuffer)); }
+bool Plot::DisplayTraceB(std::string_view StringBuffer) { return DisplayTrace(StringBuffer); }
+
+bool Plot::SaveTrace(std::string& Filename) { return Traces::SaveTrace(*control, Filename); }
+
+bool Plot::SaveRawTrace(std::string_view TraceString, std::string& Filename)
+{
+    return Traces::SaveRawTrace(*control, TraceString, Filename, RawTextForm::Characters);
+}
+
+bool Plot::SaveRawTraceB(std::string_view TraceString, std::string& Filename)
+{
+    return Traces::SaveRawTrace(*control, TraceString, Filename, RawTextForm::Bytes);
+}
+
+bool Plot::LoadRawTrace(const std::string& Filename) { return Traces::LoadRawTrace(*control, Filename); }
+void Plot::loadTextFile(const std::string& TraceName) { LoadTextFile(*control, TraceName); }
+
+void Plot::LoadVNAText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadVNAText(*control, TraceString, path);
+}
+
+std::string Plot::GetUpLoadTrace(const std::string& TraceName) const
+{
+    return Traces::GetUpLoadTrace(*control, TraceName);
+}
+
+std::string Plot::GetUpLoadTraceB(const std::string& TraceName) const { return GetUpLoadTrace(TraceName); }
+
+std::string_view Plot::TraceType() const { return TraceTypeName(control->Header.Mode); }
+std::string Plot::TraceInfo() { return Traces::TraceInfo(*control); }
+void Plot::Clear() { Traces::Clear(*control); }
+void Plot::Refresh() { control->Platform.Repaint(); }
+void Plot::RedrawTrace() { Traces::RedrawTrace(*control); }
+
+std::string Plot::TraceName() const { return control->TraceName; }
+
+void Plot::TraceName(std::string_view value)
+{
+    control->TraceName = TrimNuls(value);
+    control->Header.RefNumber = control->TraceName;
+    RedrawTrace();
+}
+
+std::int16_t Plot::TraceNum() const { return control->TraceNum; }
+
+void Plot::TraceNum(std::int16_t value)
+{
+    control->TraceNum = value;
+    RedrawTrace();
+}
+
+std::vector<std::string> Plot::Parameters() const { return LinesOf(control->lstParameters); }
+
+std::vector<std::string> Plot::ParametersToSave()
+{
+    RebuildParameters(*control);
+    return Parameters();
+}
+
+bool Plot::PlotCurve(std::int16_t Length, std::span<const float> X, std::span<const float> Y)
+{
+    return Traces::PlotCurve(*control, Length, X, Y);
+}
+
+std::int16_t Plot::SetIndex() const { return control->SetIndex; }
+
+void Plot::SetIndex(std::int16_t value)
+{
+    control->SetIndex = static_cast<std::int16_t>(std::abs(static_cast<int>(value)) % static_cast<int>(LiveSlots));
+}
+
+std::int16_t Plot::count() const { return control->TraceSlots[static_cast<std::size_t>(control->SetIndex)].Length; }
+
+bool Plot::AutoScaleY() const { return control->AutoScaleY; }
+void Plot::AutoScaleY(bool value) { control->AutoScaleY = value; }
+bool Plot::ShowParams() const { return control->ShowParams; }
+void Plot::ShowParams(bool value) { control->ShowParams = value; }
+
+void Plot::Resize(int width, int height) { Traces::Resize(*control, width, height); }
+
+std::string Plot::ConvToDBCS(std::string_view in_string) { return std::string(TrimBlanks(in_string)); }
+
+} // namespace Traces

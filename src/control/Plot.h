@@ -1,0 +1,124 @@
+// The control as a host sees it: give it a raw trace or the name of a trace file, and it decodes, draws,
+// saves and re-encodes it. A back end paints what it draws; see output/Replay.h.
+#pragma once
+
+#include "control/Platform.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Traces {
+
+struct Control;
+
+/// Texts are Windows-1252, one byte a character. Booleans are those of C++; what crosses to hosts of other
+/// conventions is -1 and 0.
+class Plot {
+public:
+    /// The platform outlives the control.
+    explicit Plot(Traces::Platform& platform);
+    ~Plot();
+    Plot(const Plot&) = delete;
+    Plot& operator=(const Plot&) = delete;
+
+    /// @name Raw traces
+    /// True when the trace was accepted and drawn. A refused one leaves the picture as it was.
+    /// @throws HostFault Overflow for a text of 32768 characters or more and for a trace of more than 32767
+    /// bytes; Range for an empty text; Range or DivisionByZero for a point count that the mode has no curve
+    /// for.
+    /// @{
+    bool ShowTrace(std::span<const std::uint8_t> BinaryBuffer);
+    bool DisplayTrace(std::string_view StringBuffer);
+    bool DisplayTraceB(std::string_view StringBuffer);
+    /// @}
+
+    /// @name Trace files
+    /// @{
+
+    /// Writes the trace as a text file. Opens the save dialog when Filename is empty or the trace hasn't
+    /// been saved yet. Filename holds the name used.
+    bool SaveTrace(std::string& Filename);
+
+    /// Decodes a raw trace and saves it as a text file without showing it.
+    bool SaveRawTrace(std::string_view TraceString, std::string& Filename);
+    bool SaveRawTraceB(std::string_view TraceString, std::string& Filename);
+
+    /// @throws HostFault FileAccess, and what ShowTrace throws.
+    bool LoadRawTrace(const std::string& Filename);
+
+    /// Loads a raw or text file by its extension, which is what stands behind the first point of the path.
+    /// @throws HostFault FileAccess.
+    void loadTextFile(const std::string& TraceName);
+
+    /// Loaders of files' texts; `path` names a file that the checksum may use when no temporary one can be
+    /// made. A message is shown, and nothing changes, when the checksum fails.
+    void LoadVNAText(std::string_view TraceString, const std::string& path);
+    /// @}
+
+    /// @name Upload frames
+    /// The frame of the trace on show when TraceName is empty, else of the file. Empty without a route.
+    /// @throws HostFault FileAccess, Overflow, Range.
+    /// @{
+    std::string GetUpLoadTrace(const std::string& TraceName) const;
+    std::string GetUpLoadTraceB(const std::string& TraceName) const;
+    /// @}
+
+    /// @name The trace on show
+    /// @{
+    std::string_view TraceType() const; ///< "RL", "SWR", "SPA"; empty for modes without one
+    std::string TraceInfo();            ///< lines of key, tab, value
+    void Clear();                       ///< empties the chart boxes and the live curves
+    void Refresh();                     ///< asks the platform to repaint
+    void RedrawTrace();                 ///< draws the view anew from the decoded state
+
+    std::string TraceName() const;
+    void TraceName(std::string_view value); ///< title and reference; redraws
+    std::int16_t TraceNum() const;
+    void TraceNum(std::int16_t value); ///< redraws
+
+    /// The parameter list: header and record as lines of key, tab, value.
+    std::vector<std::string> Parameters() const;
+
+    /// The same built anew, as a save would write it: a text file's loader lists the header alone.
+    std::vector<std::string> ParametersToSave();
+    /// @}
+
+    /// @name Curves
+    /// @{
+
+    /// Lays a curve into the slot of SetIndex and redraws. False, with the slot emptied, when Length is below
+    /// 1 or an array is shorter.
+    bool PlotCurve(std::int16_t Length, std::span<const float> X, std::span<const float> Y);
+    std::int16_t SetIndex() const;
+    void SetIndex(std::int16_t value); ///< stores the absolute value modulo 6
+    std::int16_t count() const;        ///< points of the slot of SetIndex
+    /// @}
+
+    /// @name Properties
+    /// @{
+    bool AutoScaleY() const;
+    void AutoScaleY(bool value); ///< shows with the next redraw
+    bool ShowParams() const;
+    void ShowParams(bool value); ///< shows with the next resize
+    /// @}
+
+    /// Device pixels of the control, 1 at least.
+    void Resize(int width, int height);
+
+    /// Blanks at both ends removed, for hosts that hand bytes in a text: texts are bytes here, so no
+    /// widening is left to do.
+    static std::string ConvToDBCS(std::string_view in_string);
+
+    /// The instance record, for back ends that paint it and for tools that look into it.
+    Control& Instance() { return *control; }
+    const Control& Instance() const { return *control; }
+
+private:
+    std::unique_ptr<Control> control;
+};
+
+} // namespace Traces

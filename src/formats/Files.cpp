@@ -1,0 +1,111 @@
+#include "formats/Files.h"
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <system_error>
+
+namespace Traces {
+
+namespace {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+File Open(const std::string& path, const char* mode) { return File(std::fopen(path.c_str(), mode)); }
+
+bool Write(File file, std::string_view content)
+{
+    if (!file || std::fwrite(content.data(), 1, content.size(), file.get()) != content.size())
+        return false;
+    // The close writes what is still in the buffer, so a full disk may show only now.
+    return std::fclose(file.release()) == 0;
+}
+
+/// A new file in the target's folder, under a name that no other has.
+std::pair<File, std::string> OpenBeside(const std::string& path)
+{
+    constexpr int tries = 100;
+    std::random_device random;
+    for (int i = 0; i < tries; ++i) {
+        std::string name = path + "." + std::to_string(random()) + ".tmp";
+        if (File file = Open(name, "wbx"))
+            return {std::move(file), std::move(name)};
+    }
+    return {};
+}
+
+/// Where a save really goes: the file behind a symbolic link, not the link.
+std::string ResolveLinks(const std::string& path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_symlink(path, error))
+        return path;
+    const auto target = std::filesystem::weakly_canonical(path, error);
+    return error ? path : target.string();
+}
+
+} // namespace
+
+std::optional<std::string> ReadWholeFile(const std::string& path)
+{
+    // Opening a folder succeeds on some systems; reading it must not look like an empty file.
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        return std::nullopt;
+    const File file = Open(path, "rb");
+    if (!file)
+        return std::nullopt;
+    std::string content;
+    std::array<char, 65536> block; // NOLINT(cppcoreguidelines-pro-type-member-init): fread fills it
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file.get()))
+        content.append(block.data(), count);
+    if (std::ferror(file.get()) != 0)
+        return std::nullopt;
+    return content;
+}
+
+bool WriteWholeFile(const std::string& path, std::string_view content) { return Write(Open(path, "wb"), content); }
+
+bool OverwriteFileBytes(const std::string& path, std::size_t place, std::string_view bytes)
+{
+    File file = Open(path, "r+b");
+    if (!file || std::fseek(file.get(), static_cast<long>(place), SEEK_SET) != 0)
+        return false;
+    return Write(std::move(file), bytes);
+}
+
+bool ReplaceFile(const std::string& path, std::string_view content,
+                 const std::function<void(const std::string& path)>& finish)
+{
+    namespace fs = std::filesystem;
+    std::error_code error;
+    const std::string target = ResolveLinks(path);
+    const fs::file_status old = fs::status(target, error);
+    if (fs::exists(old) && !fs::is_regular_file(old)) {
+        if (!WriteWholeFile(target, content))
+            return false;
+        finish(target);
+        return true;
+    }
+    auto [file, beside] = OpenBeside(target);
+    if (!file)
+        return false;
+    const bool written = Write(std::move(file), content);
+    if (written) {
+        finish(beside);
+        if (fs::exists(old))
+            fs::permissions(beside, old.permissions(), error);
+        fs::rename(beside, target, error);
+        if (!error)
+            return true;
+    }
+    fs::remove(beside, error);
+    return false;
+}
+
+} // namespace Traces

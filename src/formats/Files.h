@@ -1,0 +1,28 @@
+// Whole files in and out. A trace is small; every file is read at once and written at once.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Traces {
+
+/// A file's content, one character a byte; nothing when it can't be read.
+std::optional<std::string> ReadWholeFile(const std::string& path);
+
+/// Replaces or makes a file; false when any byte of it couldn't be written.
+bool WriteWholeFile(const std::string& path, std::string_view content);
+
+/// Writes over the bytes from a place on in an existing file.
+bool OverwriteFileBytes(const std::string& path, std::size_t place, std::string_view bytes);
+
+/// Replaces a file so that at any moment either the old or the new content stands under its name: writes
+/// beside it, lets `finish` work on the written file, and renames. `finish` gets the name of the file as
+/// it stands then. A target that isn't a regular file (a pipe, a device) is written directly. False, with
+/// the old file as it was, when anything fails.
+bool ReplaceFile(const std::string& path, std::string_view content,
+                 const std::function<void(const std::string& path)>& finish);
+
+} // namespace Traces

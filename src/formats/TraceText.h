@@ -1,0 +1,87 @@
+// The text of a trace file and the lookups in it. One pass over the text indexes its lines and its colons;
+// every lookup then finds what a search through the whole text would find, without its cost.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Traces {
+
+/// Fields of one line, split at the tabs. It keeps what it held when a lookup finds nothing.
+struct LineFields {
+    int UpperIndex = -1; ///< number of fields less one
+    std::vector<std::string_view> Parts;
+};
+
+class TraceText {
+public:
+    /// Indexes the text, which must outlive this object.
+    explicit TraceText(std::string_view whole);
+
+    /// The value of the first line, from the second on, that begins with the key: what stands between the
+    /// first tab behind it and the next carriage return. Empty when no line does. When no tab follows in
+    /// the whole text, it is the text's first line.
+    std::string_view ParamValue(std::string_view key) const;
+
+    /// Splits the value of the first place, anywhere in the text, where the key stands. False, with the
+    /// fields left as they were, when it stands nowhere.
+    bool ParamFields(std::string_view key, LineFields& fields) const;
+
+    /// `width` characters from `skip` behind the first character of the line's key, ending at a carriage
+    /// return; empty when no line begins with the key.
+    std::string_view ParamChars(std::string_view key, std::size_t skip, std::size_t width) const;
+
+    /// 22 characters from 25 behind the place of the key followed by " =", anywhere in the text.
+    std::string_view ParamSpectro(std::string_view key) const;
+
+    std::string_view Whole() const { return text; }
+
+private:
+    /// Places in the text, chained by a hash of some characters there, each chain in the text's order.
+    class PlaceIndex {
+    public:
+        void Reserve(std::size_t count);
+        void Add(std::uint32_t hash, std::size_t place);
+        /// The first place of the hash's chain that the test accepts; npos when none.
+        template <class Test>
+        std::size_t Find(std::uint32_t hash, Test test) const;
+
+    private:
+        static constexpr std::uint32_t None = 0xFFFFFFFF;
+        struct Entry {
+            std::size_t Place;
+            std::uint32_t Next;
+        };
+        struct Chain {
+            std::uint32_t First = None, Last = None;
+        };
+        std::vector<Entry> entries;
+        std::vector<Chain> chains;
+    };
+
+    /// Where the next given character stands, with the last answer kept: lookups ask for the same tab or
+    /// line end again and again, and a hostile file could have none for megabytes.
+    class NextCharacter {
+    public:
+        explicit NextCharacter(char wanted) : character(wanted) {}
+        std::size_t From(std::string_view whole, std::size_t place) const;
+
+    private:
+        char character;
+        mutable std::size_t askedFrom = 1, answer = 0;
+    };
+
+    std::size_t FindLine(std::string_view key) const;
+    std::size_t FindAnywhere(std::string_view key) const;
+    std::string_view ValueBehind(std::size_t place) const;
+
+    std::string_view text;
+    std::vector<std::size_t> lineStarts; ///< places behind each line feed
+    PlaceIndex lines;                    ///< line starts by their first characters
+    PlaceIndex colons;                   ///< colons by the characters in front of them
+    NextCharacter nextTab{'\t'}, nextReturn{'\r'};
+};
+
+} // namespace Traces
