@@ -87,8 +87,9 @@ void DrawMarkerLines(Control& control, ChartSurface& box, MarkerSet& markers)
         if (!markers.MarkerOn[i] || slot.X.empty())
             continue;
         const int marker = static_cast<int>(i);
-        const float x = marker == markers.DraggedMarker ? markers.MarkerX[i]
-                                                        : slot.X[static_cast<std::size_t>(markers.MarkerIndex[i])];
+        const float x = marker == markers.DraggedMarker
+                            ? markers.MarkerX[i]
+                            : slot.X[static_cast<std::size_t>(markers.MarkerIndex[i])];
         box.Line(x, box.ScaleTop, x, box.ScaleTop + box.ScaleHeight, MarkerColour(control, markers, marker));
     }
     box.DrawStyle = LineStyle::Solid;

@@ -51,7 +51,8 @@ void NiceRange(float& ymin, float& ymax, float& step, bool round)
     // The products count in single precision, so that an end of 0.1 is 0.1 and not a little more.
     constexpr double almostOne = 0.9999999999;
     const double a = std::floor(static_cast<double>(static_cast<float>(p * static_cast<double>(ymin))));
-    const double b = std::floor(static_cast<double>(static_cast<float>(p * static_cast<double>(ymax))) + almostOne);
+    const double b =
+        std::floor(static_cast<double>(static_cast<float>(p * static_cast<double>(ymax))) + almostOne);
     step = static_cast<float>(static_cast<double>(StepUnits(static_cast<float>(b - a))) / p);
     if (round) {
         ymin = static_cast<float>(a / p);

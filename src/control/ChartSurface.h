@@ -54,7 +54,7 @@ public:
     Colour ForeColor = Black;
     Colour BackColor = White;
     LineStyle DrawStyle = LineStyle::Solid;
-    std::uint8_t DrawWidth = 1; ///< pixels
+    std::uint8_t DrawWidth = 1;  ///< pixels
     bool FillTransparent = true; ///< FillStyle 1; false is FillStyle 0, solid
     Colour FillColor = Black;
     Traces::Font Font;

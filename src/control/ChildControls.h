@@ -82,14 +82,14 @@ public:
     /// The holders in the order in which a redraw sets them visible or not.
     std::array<ChartSurface*, 12> Holders()
     {
-        return {&VNAHolder,  &SPAHolder,  &PMHolder,  &ZephraHolder,  &E1T1Holder,    &CDMAHolder,
-                &EvDOHolder, &GSMHolder,  &CSHolder,  &SpectroHolder, &GPSiDENHolder, &idenHolder};
+        return {&VNAHolder,  &SPAHolder, &PMHolder, &ZephraHolder,  &E1T1Holder,    &CDMAHolder,
+                &EvDOHolder, &GSMHolder, &CSHolder, &SpectroHolder, &GPSiDENHolder, &idenHolder};
     }
 
     /// The boxes that Clear empties, in its order.
     std::array<ChartSurface*, 11> ChartBoxes()
     {
-        return {&VNABox,  &SPABox, &CDMABox,   &EvDOTopBox, &EvDOSubBox, &GSMBox,
+        return {&VNABox,  &SPABox, &CDMABox,    &EvDOTopBox, &EvDOSubBox, &GSMBox,
                 &E1T1Box, &CSBox,  &SpectroBox, &GPSiDENBox, &idenbox};
     }
 };

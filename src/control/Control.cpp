@@ -36,9 +36,9 @@ void SetColours(Control& control)
     // The stored background property, as a new control has it.
     control.Surface.BackColor = DefaultBackColor;
     for (ChartSurface* holder :
-         {&control.VNAHolder, &control.SPAHolder, &control.PMHolder, &control.GPSiDENHolder, &control.ZephraHolder,
-          &control.CDMAHolder, &control.EvDOHolder, &control.CSHolder, &control.E1T1Holder, &control.GSMHolder,
-          &control.ParamBox, &control.SpectroHolder})
+         {&control.VNAHolder, &control.SPAHolder, &control.PMHolder, &control.GPSiDENHolder,
+          &control.ZephraHolder, &control.CDMAHolder, &control.EvDOHolder, &control.CSHolder,
+          &control.E1T1Holder, &control.GSMHolder, &control.ParamBox, &control.SpectroHolder})
         holder->BackColor = DefaultBackColor;
 }
 
@@ -84,18 +84,22 @@ Control::Control(Traces::Platform& platform, const Traces::Families& families)
 
 const ModeRow* Families::FindMode(int mode) const
 {
-    const auto row = std::find_if(Modes.begin(), Modes.end(), [&](const ModeRow& each) { return each.Mode == mode; });
+    const auto row =
+        std::find_if(Modes.begin(), Modes.end(), [&](const ModeRow& each) { return each.Mode == mode; });
     return row == Modes.end() ? nullptr : &*row;
 }
 
 const FileKind* Families::FindFileKind(std::string_view extension) const
 {
-    const auto kind =
-        std::find_if(Files.begin(), Files.end(), [&](const FileKind& each) { return each.Extension == extension; });
+    const auto kind = std::find_if(Files.begin(), Files.end(),
+                                   [&](const FileKind& each) { return each.Extension == extension; });
     return kind == Files.end() ? nullptr : &*kind;
 }
 
-const ModeRow* CurrentRow(const Control& control) { return control.Families.FindMode(control.CurrentMode); }
+const ModeRow* CurrentRow(const Control& control)
+{
+    return control.Families.FindMode(control.CurrentMode);
+}
 
 void SetSlotLength(Control& control, std::size_t slot, std::int16_t length)
 {

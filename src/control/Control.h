@@ -35,8 +35,8 @@ struct Control : private Screen, public ChildControls {
     const Traces::Families& Families;
 
     std::array<TraceSlot, 81> TraceSlots;
-    std::array<Colour, LiveSlots> TraceColors = {0xFFFF,           0xFF,           0xFF00,
-                                                 RGB(0, 255, 255), RGB(255, 255, 0), RGB(255, 0, 255)};
+    std::array<Colour, LiveSlots> TraceColors = {
+        0xFFFF, 0xFF, 0xFF00, RGB(0, 255, 255), RGB(255, 255, 0), RGB(255, 0, 255)};
     MyBorderStyles BorderStyle = MyBorderStyles::pbflat;
     std::int16_t SetIndex = 0; ///< 0 to 5
     Colour ForeColor = Black;

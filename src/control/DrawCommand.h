@@ -17,7 +17,10 @@ inline constexpr Colour NoColour = -1;
 inline constexpr Colour Black = 0;
 inline constexpr Colour White = 0xFFFFFF;
 
-constexpr Colour RGB(int red, int green, int blue) { return red | green << 8 | blue << 16; }
+constexpr Colour RGB(int red, int green, int blue)
+{
+    return red | green << 8 | blue << 16;
+}
 
 struct Point {
     float X, Y;

@@ -13,7 +13,7 @@ class ChartSurface;
 inline constexpr std::size_t MarkerCount = 6;
 
 struct MarkerSet {
-    ChartSurface* Holder = nullptr; ///< the family's holder, not owned
+    ChartSurface* Holder = nullptr;  ///< the family's holder, not owned
     std::int16_t SelectedMarker = 0; ///< last one grabbed or stepped; -1 after a click beside all
     std::int16_t DraggedMarker = -1; ///< the one being dragged, -1 when none
     std::array<std::int16_t, MarkerCount> MarkerIndex{}; ///< point of slot 0 on which each stands

@@ -14,7 +14,8 @@ namespace Traces {
 std::uint32_t Platform::GetTickCount()
 {
     using namespace std::chrono;
-    return static_cast<std::uint32_t>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+    return static_cast<std::uint32_t>(
+        duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
 }
 
 std::string Platform::GetTempPathA()

@@ -47,10 +47,19 @@ bool Plot::ShowTrace(std::span<const std::uint8_t> BinaryBuffer)
     return Traces::ShowTrace(*control, RawBuffer(BinaryBuffer));
 }
 
-bool Plot::DisplayTrace(std::string_view StringBuffer) { return Traces::ShowTrace(*control, BufferOfText(StringBuffer)); }
-bool Plot::DisplayTraceB(std::string_view StringBuffer) { return DisplayTrace(StringBuffer); }
+bool Plot::DisplayTrace(std::string_view StringBuffer)
+{
+    return Traces::ShowTrace(*control, BufferOfText(StringBuffer));
+}
+bool Plot::DisplayTraceB(std::string_view StringBuffer)
+{
+    return DisplayTrace(StringBuffer);
+}
 
-bool Plot::SaveTrace(std::string& Filename) { return Traces::SaveTrace(*control, Filename); }
+bool Plot::SaveTrace(std::string& Filename)
+{
+    return Traces::SaveTrace(*control, Filename);
+}
 
 bool Plot::SaveRawTrace(std::string_view TraceString, std::string& Filename)
 {
@@ -62,8 +71,14 @@ bool Plot::SaveRawTraceB(std::string_view TraceString, std::string& Filename)
     return Traces::SaveRawTrace(*control, TraceString, Filename, RawTextForm::Bytes);
 }
 
-bool Plot::LoadRawTrace(const std::string& Filename) { return Traces::LoadRawTrace(*control, Filename); }
-void Plot::loadTextFile(const std::string& TraceName) { LoadTextFile(*control, TraceName); }
+bool Plot::LoadRawTrace(const std::string& Filename)
+{
+    return Traces::LoadRawTrace(*control, Filename);
+}
+void Plot::loadTextFile(const std::string& TraceName)
+{
+    LoadTextFile(*control, TraceName);
+}
 
 void Plot::LoadVNAText(std::string_view TraceString, const std::string& path)
 {
@@ -75,15 +90,36 @@ std::string Plot::GetUpLoadTrace(const std::string& TraceName) const
     return Traces::GetUpLoadTrace(*control, TraceName);
 }
 
-std::string Plot::GetUpLoadTraceB(const std::string& TraceName) const { return GetUpLoadTrace(TraceName); }
+std::string Plot::GetUpLoadTraceB(const std::string& TraceName) const
+{
+    return GetUpLoadTrace(TraceName);
+}
 
-std::string_view Plot::TraceType() const { return TraceTypeName(control->Header.Mode); }
-std::string Plot::TraceInfo() { return Traces::TraceInfo(*control); }
-void Plot::Clear() { Traces::Clear(*control); }
-void Plot::Refresh() { control->Platform.Repaint(); }
-void Plot::RedrawTrace() { Traces::RedrawTrace(*control); }
+std::string_view Plot::TraceType() const
+{
+    return TraceTypeName(control->Header.Mode);
+}
+std::string Plot::TraceInfo()
+{
+    return Traces::TraceInfo(*control);
+}
+void Plot::Clear()
+{
+    Traces::Clear(*control);
+}
+void Plot::Refresh()
+{
+    control->Platform.Repaint();
+}
+void Plot::RedrawTrace()
+{
+    Traces::RedrawTrace(*control);
+}
 
-std::string Plot::TraceName() const { return control->TraceName; }
+std::string Plot::TraceName() const
+{
+    return control->TraceName;
+}
 
 void Plot::TraceName(std::string_view value)
 {
@@ -92,7 +128,10 @@ void Plot::TraceName(std::string_view value)
     RedrawTrace();
 }
 
-std::int16_t Plot::TraceNum() const { return control->TraceNum; }
+std::int16_t Plot::TraceNum() const
+{
+    return control->TraceNum;
+}
 
 void Plot::TraceNum(std::int16_t value)
 {
@@ -100,7 +139,10 @@ void Plot::TraceNum(std::int16_t value)
     RedrawTrace();
 }
 
-std::vector<std::string> Plot::Parameters() const { return LinesOf(control->lstParameters); }
+std::vector<std::string> Plot::Parameters() const
+{
+    return LinesOf(control->lstParameters);
+}
 
 std::vector<std::string> Plot::ParametersToSave()
 {
@@ -113,22 +155,47 @@ bool Plot::PlotCurve(std::int16_t Length, std::span<const float> X, std::span<co
     return Traces::PlotCurve(*control, Length, X, Y);
 }
 
-std::int16_t Plot::SetIndex() const { return control->SetIndex; }
+std::int16_t Plot::SetIndex() const
+{
+    return control->SetIndex;
+}
 
 void Plot::SetIndex(std::int16_t value)
 {
-    control->SetIndex = static_cast<std::int16_t>(std::abs(static_cast<int>(value)) % static_cast<int>(LiveSlots));
+    control->SetIndex =
+        static_cast<std::int16_t>(std::abs(static_cast<int>(value)) % static_cast<int>(LiveSlots));
 }
 
-std::int16_t Plot::count() const { return control->TraceSlots[static_cast<std::size_t>(control->SetIndex)].Length; }
+std::int16_t Plot::count() const
+{
+    return control->TraceSlots[static_cast<std::size_t>(control->SetIndex)].Length;
+}
 
-bool Plot::AutoScaleY() const { return control->AutoScaleY; }
-void Plot::AutoScaleY(bool value) { control->AutoScaleY = value; }
-bool Plot::ShowParams() const { return control->ShowParams; }
-void Plot::ShowParams(bool value) { control->ShowParams = value; }
+bool Plot::AutoScaleY() const
+{
+    return control->AutoScaleY;
+}
+void Plot::AutoScaleY(bool value)
+{
+    control->AutoScaleY = value;
+}
+bool Plot::ShowParams() const
+{
+    return control->ShowParams;
+}
+void Plot::ShowParams(bool value)
+{
+    control->ShowParams = value;
+}
 
-void Plot::Resize(int width, int height) { Traces::Resize(*control, width, height); }
+void Plot::Resize(int width, int height)
+{
+    Traces::Resize(*control, width, height);
+}
 
-std::string Plot::ConvToDBCS(std::string_view in_string) { return std::string(TrimBlanks(in_string)); }
+std::string Plot::ConvToDBCS(std::string_view in_string)
+{
+    return std::string(TrimBlanks(in_string));
+}
 
 } // namespace Traces

@@ -27,7 +27,8 @@ const TextMetrics& BuiltInMetrics();
 struct Screen {
     float TwipsPerPixelX = 15; ///< 15 at 96 dots per inch
     float TwipsPerPixelY = 15;
-    float FontScaleFactor = 1; ///< pixels of a 96 dpi screen per user unit of the control, on the tighter axis
+    float FontScaleFactor =
+        1; ///< pixels of a 96 dpi screen per user unit of the control, on the tighter axis
     const TextMetrics* Metrics = &BuiltInMetrics();
 };
 

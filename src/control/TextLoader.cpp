@@ -51,8 +51,7 @@ bool VerifyTraceChecksum(Platform& platform, std::string_view text, const std::s
         verified = !copy.empty() && FreshChecksumField(platform, text, copy) == stored;
     }
     if (!verified)
-        platform.MessageBox(
-            {"File Open", "Failed to open trace file.  Checksum failed.", MessageIcon::Stop});
+        platform.MessageBox({"File Open", "Failed to open trace file.  Checksum failed.", MessageIcon::Stop});
     return verified;
 }
 

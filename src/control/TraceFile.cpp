@@ -20,9 +20,8 @@ bool WriteTraceFile(Control& control, const std::string& filename)
     const std::string content = std::string(EmptyChecksumLine) + control.lstParameters.Text();
     return ReplaceFile(filename, content, [&](const std::string& written) {
         if (control.Platform.TavrixChecksumStdCall(written, SaveChecksumKey) != 0)
-            control.Platform.MessageBox({"File Save",
-                                         "File save operation failed:  Could not create Checksum.",
-                                         MessageIcon::Stop});
+            control.Platform.MessageBox(
+                {"File Save", "File save operation failed:  Could not create Checksum.", MessageIcon::Stop});
     });
 }
 

@@ -33,7 +33,10 @@ void StoreNumber(T& field, double value)
         field = *whole;
 }
 
-void StoreNumber(std::string& field, double value) { field = NumberText(value); }
+void StoreNumber(std::string& field, double value)
+{
+    field = NumberText(value);
+}
 
 double NumberIn(FieldView field)
 {

@@ -128,7 +128,8 @@ template <class Record, std::size_t Count>
 constexpr bool FieldsFit(const std::array<Field<Record>, Count>& fields)
 {
     for (std::size_t i = 0; i < Count; ++i) {
-        if (i > 0 && fields[i].Offset < fields[i - 1].Offset + WidthOf(fields[i - 1].Reader, fields[i - 1].Width))
+        if (i > 0 &&
+            fields[i].Offset < fields[i - 1].Offset + WidthOf(fields[i - 1].Reader, fields[i - 1].Width))
             return false;
         for (std::size_t k = 0; k < i; ++k)
             if (fields[k].Key == fields[i].Key)

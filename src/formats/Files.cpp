@@ -16,7 +16,10 @@ struct FileCloser {
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-File Open(const std::string& path, const char* mode) { return File(std::fopen(path.c_str(), mode)); }
+File Open(const std::string& path, const char* mode)
+{
+    return File(std::fopen(path.c_str(), mode));
+}
 
 bool Write(File file, std::string_view content)
 {
@@ -69,7 +72,10 @@ std::optional<std::string> ReadWholeFile(const std::string& path)
     return content;
 }
 
-bool WriteWholeFile(const std::string& path, std::string_view content) { return Write(Open(path, "wb"), content); }
+bool WriteWholeFile(const std::string& path, std::string_view content)
+{
+    return Write(Open(path, "wb"), content);
+}
 
 bool OverwriteFileBytes(const std::string& path, std::size_t place, std::string_view bytes)
 {

@@ -66,7 +66,10 @@ const NameRow* FindNames(std::uint8_t mode)
 
 } // namespace
 
-bool IsNamedMode(int mode) { return mode >= 0 && mode <= 255 && FindNames(static_cast<std::uint8_t>(mode)) != nullptr; }
+bool IsNamedMode(int mode)
+{
+    return mode >= 0 && mode <= 255 && FindNames(static_cast<std::uint8_t>(mode)) != nullptr;
+}
 
 std::string ModeName(std::uint8_t mode)
 {

@@ -83,7 +83,8 @@ std::size_t TraceText::FindLine(std::string_view key) const
         const auto ends = [&](std::size_t colon) {
             return colon > before && text.substr(colon - before - 1).starts_with(withFeed);
         };
-        const std::string_view lastTwo = std::string_view(withFeed).substr(key.size() - ColonHashLength, ColonHashLength);
+        const std::string_view lastTwo =
+            std::string_view(withFeed).substr(key.size() - ColonHashLength, ColonHashLength);
         const std::size_t colon = colons.Find(HashOf(lastTwo), ends);
         return colon == std::string_view::npos ? colon : colon - before;
     }

@@ -51,11 +51,20 @@ void UploadFrame::Put(int position, std::string_view text)
     bytes.replace(at, std::min(text.size(), bytes.size() - at), text, 0, bytes.size() - at);
 }
 
-std::string PutI16(double value) { return LowBytes(value, 2); }
+std::string PutI16(double value)
+{
+    return LowBytes(value, 2);
+}
 
-std::string PutU32(double value, double scale, double offset) { return LowBytes(value * scale + offset, 4); }
+std::string PutU32(double value, double scale, double offset)
+{
+    return LowBytes(value * scale + offset, 4);
+}
 
-std::string PutU32FromI32(std::int32_t value, double scale, double offset) { return PutU32(value, scale, offset); }
+std::string PutU32FromI32(std::int32_t value, double scale, double offset)
+{
+    return PutU32(value, scale, offset);
+}
 
 std::string PutByte(double value)
 {
@@ -65,7 +74,10 @@ std::string PutByte(double value)
     return std::string(1, static_cast<char>(*byte));
 }
 
-std::string PutByteFromText(const TraceText& text, std::string_view key) { return PutByte(TextNumber(text, key)); }
+std::string PutByteFromText(const TraceText& text, std::string_view key)
+{
+    return PutByte(TextNumber(text, key));
+}
 
 std::string PutI16FromText(const TraceText& text, std::string_view key, double scale, double offset)
 {

@@ -79,7 +79,9 @@ VNAMagnitude ConvertMagnitude(int mode, std::int32_t raw)
     const double a = std::abs(x);
     double value = 0;
     switch (mode) {
-    case TraceMode::RLFrequency: value = x == 0 ? lowestReturnLoss : std::max(20 * Log10(a), lowestReturnLoss); break;
+    case TraceMode::RLFrequency:
+        value = x == 0 ? lowestReturnLoss : std::max(20 * Log10(a), lowestReturnLoss);
+        break;
     // The ceiling is for total reflection only: 0.99 is an SWR of 199.
     case TraceMode::SWRFrequency: value = a < 1 ? (1 + a) / (1 - a) : highestSWR; break;
     // One-way loss, hence 10 and not 20; and no reflection at all reads as 0 dB, since Log10(0) is 0.

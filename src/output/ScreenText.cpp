@@ -1,0 +1,44 @@
+#include "output/ScreenText.h"
+
+#include "formats/Text.h"
+
+#include <array>
+
+namespace Traces {
+
+namespace {
+
+// Greek letters in the order of the Latin ones that stand for them in the Symbol font, A to Z and a to z.
+constexpr std::array<std::string_view, 26> GreekCapitals = {"Α", "Β", "Χ", "Δ", "Ε", "Φ", "Γ", "Η", "Ι",
+                                                            "ϑ", "Κ", "Λ", "Μ", "Ν", "Ο", "Π", "Θ", "Ρ",
+                                                            "Σ", "Τ", "Υ", "ς", "Ω", "Ξ", "Ψ", "Ζ"};
+constexpr std::array<std::string_view, 26> GreekSmalls = {"α", "β", "χ", "δ", "ε", "φ", "γ", "η", "ι",
+                                                          "ϕ", "κ", "λ", "μ", "ν", "ο", "π", "θ", "ρ",
+                                                          "σ", "τ", "υ", "ϖ", "ω", "ξ", "ψ", "ζ"};
+
+std::string GreekText(std::string_view text)
+{
+    std::string greek;
+    for (const char c : text) {
+        if (c >= 'A' && c <= 'Z')
+            greek += GreekCapitals[static_cast<std::size_t>(c - 'A')];
+        else if (c >= 'a' && c <= 'z')
+            greek += GreekSmalls[static_cast<std::size_t>(c - 'a')];
+        else
+            greek += Utf8FromAnsi(std::string_view(&c, 1));
+    }
+    return greek;
+}
+
+} // namespace
+
+std::string ScreenText(std::string_view text, std::string_view fontName)
+{
+    std::string shown = fontName == "Symbol" ? GreekText(text) : Utf8FromAnsi(text);
+    for (char& c : shown)
+        if (static_cast<unsigned char>(c) < ' ' || c == '\x7F')
+            c = ' ';
+    return shown;
+}
+
+} // namespace Traces
