@@ -1,10 +1,10 @@
 #include "formats/Files.h"
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
-#include <random>
 #include <system_error>
 
 namespace Traces {
@@ -27,19 +27,6 @@ bool Write(File file, std::string_view content)
         return false;
     // The close writes what is still in the buffer, so a full disk may show only now.
     return std::fclose(file.release()) == 0;
-}
-
-/// A new file in the target's folder, under a name that no other has.
-std::pair<File, std::string> OpenBeside(const std::string& path)
-{
-    constexpr int tries = 100;
-    std::random_device random;
-    for (int i = 0; i < tries; ++i) {
-        std::string name = path + "." + std::to_string(random()) + ".tmp";
-        if (File file = Open(name, "wbx"))
-            return {std::move(file), std::move(name)};
-    }
-    return {};
 }
 
 /// Where a save really goes: the file behind a symbolic link, not the link.
@@ -85,6 +72,19 @@ bool OverwriteFileBytes(const std::string& path, std::size_t place, std::string_
     return Write(std::move(file), bytes);
 }
 
+std::optional<std::string> MakeNewFile(const std::string& stem)
+{
+    constexpr int tries = 100;
+    for (int i = 0; i < tries; ++i) {
+        const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
+        std::string path = stem + std::to_string(ticks) + ".tmp";
+        // "x" opens the file only when the name is new, whoever else may try the same.
+        if (Open(path, "wbx"))
+            return path;
+    }
+    return std::nullopt;
+}
+
 bool ReplaceFile(const std::string& path, std::string_view content,
                  const std::function<void(const std::string& path)>& finish)
 {
@@ -98,19 +98,18 @@ bool ReplaceFile(const std::string& path, std::string_view content,
         finish(target);
         return true;
     }
-    auto [file, beside] = OpenBeside(target);
-    if (!file)
+    const auto beside = MakeNewFile(target + ".");
+    if (!beside)
         return false;
-    const bool written = Write(std::move(file), content);
-    if (written) {
-        finish(beside);
+    if (WriteWholeFile(*beside, content)) {
+        finish(*beside);
         if (fs::exists(old))
-            fs::permissions(beside, old.permissions(), error);
-        fs::rename(beside, target, error);
+            fs::permissions(*beside, old.permissions(), error);
+        fs::rename(*beside, target, error);
         if (!error)
             return true;
     }
-    fs::remove(beside, error);
+    fs::remove(*beside, error);
     return false;
 }
 
