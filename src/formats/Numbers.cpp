@@ -129,18 +129,18 @@ double LenientPrefixed(LenientReader reader)
 struct PrefixedNumber {
     double Magnitude = 0;
     std::size_t Digits = 0;
-    int Base = 0;
 };
 
 std::optional<PrefixedNumber> StrictPrefixed(std::string_view text)
 {
     if (text.size() < 3)
         return std::nullopt;
-    PrefixedNumber number{0, text.size() - 2, PrefixBase(text[1])};
+    const int base = PrefixBase(text[1]);
+    PrefixedNumber number{0, text.size() - 2};
     for (const char c : text.substr(2)) {
-        if (DigitValue(c) >= number.Base)
+        if (DigitValue(c) >= base)
             return std::nullopt;
-        number.Magnitude = number.Magnitude * number.Base + DigitValue(c);
+        number.Magnitude = number.Magnitude * base + DigitValue(c);
     }
     return number;
 }
@@ -205,7 +205,8 @@ std::optional<T> FromPrefixed(const PrefixedNumber& number)
     } else {
         constexpr double largest = std::numeric_limits<T>::max();
         double value = number.Magnitude;
-        if (std::is_signed_v<T> && number.Base == 16 && number.Digits == 2 * sizeof(T) && value > largest)
+        // An octal number of so few digits never gets beyond the largest.
+        if (std::is_signed_v<T> && number.Digits == 2 * sizeof(T) && value > largest)
             value -= 2 * (largest + 1);
         return RoundTo<T>(value);
     }
