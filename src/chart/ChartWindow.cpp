@@ -18,6 +18,12 @@ float StepUnits(float whole)
     return whole >= 1 && whole <= 11 ? units[static_cast<int>(whole)] : 1;
 }
 
+void CheckFinite(const ChartWindow& window)
+{
+    if (!std::isfinite(window.Xmax - window.Xmin) || !std::isfinite(window.Ymax - window.Ymin))
+        throw HostFault(FaultKind::Overflow, "the curve has values that no axis holds");
+}
+
 } // namespace
 
 bool TraceExtent(const TraceSlot& slot, ChartWindow& window)
@@ -36,7 +42,7 @@ bool TraceExtent(const TraceSlot& slot, ChartWindow& window)
 void NiceRange(float& ymin, float& ymax, float& step, bool round)
 {
     double span = static_cast<double>(ymax - ymin);
-    if (!(span > 0) || !std::isfinite(span)) {
+    if (!(span > 0) || std::isinf(span)) {
         ymin = -1;
         ymax = 1;
         step = 2;
@@ -82,6 +88,7 @@ ChartWindow ChooseWindow(const Control& control)
         PadZoomRange(window, control.YScaleTop, control.YScaleBottom);
     } else {
         const bool extends = TraceExtent(control.TraceSlots[0], window);
+        CheckFinite(window);
         if (extends && (control.AutoScaleY || !(control.YScaleBottom < control.YScaleTop))) {
             float step = 0;
             NiceRange(window.Ymin, window.Ymax, step, control.AutoScaleY);
@@ -90,8 +97,7 @@ ChartWindow ChooseWindow(const Control& control)
             window.Ymin = control.YScaleBottom;
         }
     }
-    if (!std::isfinite(window.Xmax - window.Xmin) || !std::isfinite(window.Ymax - window.Ymin))
-        throw HostFault(FaultKind::Overflow, "the curve has values that no axis holds");
+    CheckFinite(window);
     return window;
 }
 
