@@ -132,4 +132,14 @@ void RedrawTrace(Control& control)
     control.Platform.Repaint();
 }
 
+bool TryRedrawTrace(Control& control)
+{
+    try {
+        RedrawTrace(control);
+        return true;
+    } catch (const HostFault&) {
+        return false;
+    }
+}
+
 } // namespace Traces

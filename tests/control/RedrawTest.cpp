@@ -1,0 +1,45 @@
+#include "control/Control.h"
+#include "control/HeadlessPlatform.h"
+#include "control/Plot.h"
+#include "formats/HostFault.h"
+#include "support/RawBuilder.h"
+#include "support/TraceFiles.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace Traces {
+namespace {
+
+using Testing::RawSweep;
+using Testing::WithChecksum;
+
+class CountingPlatform : public HeadlessPlatform {
+public:
+    int Repaints = 0;
+    void Repaint() override { ++Repaints; }
+};
+
+class Redraw : public testing::Test {
+protected:
+    CountingPlatform platform;
+    Plot plot{platform};
+    Control& state = plot.Instance();
+};
+
+TEST_F(Redraw, AFaultOfTheViewComesOutOfAHostsCallButNotOfALoaderOrAResize)
+{
+    const std::string file = WithChecksum("Mode:\tRL Frequency\r\nDataPoints:\t2\r\n"
+                                          "Start Frequency:\t10\r\nStop Frequency:\t20\r\n"
+                                          "Data point 0:\t-3E38\t0\r\nData point 1:\t3E38\t0\r\n");
+    EXPECT_NO_THROW(plot.LoadVNAText(file, {}));
+    EXPECT_EQ(state.TraceSlots[0].Y[1], 3E38F) << "loaded all the same";
+    EXPECT_TRUE(state.VNAHolder.Visible);
+    EXPECT_NO_THROW(plot.Resize(700, 600));
+    EXPECT_EQ(state.Surface.Width, 700);
+    EXPECT_THROW(plot.RedrawTrace(), HostFault);
+}
+
+} // namespace
+} // namespace Traces
