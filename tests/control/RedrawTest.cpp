@@ -41,5 +41,29 @@ TEST_F(Redraw, AFaultOfTheViewComesOutOfAHostsCallButNotOfALoaderOrAResize)
     EXPECT_THROW(plot.RedrawTrace(), HostFault);
 }
 
+TEST_F(Redraw, WhateverChangesThePictureAsksForARepaint)
+{
+    const struct {
+        const char* Name;
+        std::function<void()> Change;
+    } cases[] = {
+        {"a trace", [&] { plot.ShowTrace(RawSweep(0, {1000, 10000}).Bytes()); }},
+        {"a redraw", [&] { plot.RedrawTrace(); }},
+        {"a resize", [&] { plot.Resize(300, 200); }},
+        {"an emptied chart", [&] { plot.Clear(); }},
+        {"a trace of an unknown mode", [&] { plot.ShowTrace(RawSweep(200, {1, 2}).Bytes()); }},
+        {"a file of an unknown mode, which hides the holder",
+         [&] { plot.LoadVNAText(WithChecksum("Mode:\tUnknown(200)\r\nDataPoints:\t0\r\n"), {}); }},
+    };
+    for (const auto& each : cases) {
+        platform.Repaints = 0;
+        each.Change();
+        EXPECT_GT(platform.Repaints, 0) << each.Name;
+    }
+    platform.Repaints = 0;
+    plot.ShowTrace(RawSweep(0, {}).Bytes().first(90));
+    EXPECT_EQ(platform.Repaints, 0) << "a refused trace leaves the picture alone";
+}
+
 } // namespace
 } // namespace Traces
