@@ -87,8 +87,8 @@ void ConvertToExport(Console& console, const Export& result, const ConvertOption
 {
     if (!result.Problem.empty())
         console.Error(options.In, result.Problem);
-    else
-        WriteOutput(console, options.Out, result.Content);
+    else if (WriteOutput(console, options.Out, result.Content) && !result.Note.empty())
+        console.Note(options.In, result.Note);
 }
 
 } // namespace

@@ -3,12 +3,11 @@
 #include "apps/cli/Console.h"
 #include "apps/cli/OpenTrace.h"
 #include "control/Control.h"
+#include "formats/Numbers.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 
 namespace Traces::Cli {
 
@@ -61,14 +60,6 @@ const ExportRow* FindRow(int mode)
     return row != std::end(Rows) ? row : nullptr;
 }
 
-/// The shortest digits that read back as the same value.
-void AppendNumber(std::string& text, float value)
-{
-    std::array<char, 32> digits; // NOLINT(cppcoreguidelines-pro-type-member-init): to_chars fills it
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-    text.append(digits.data(), end.ptr);
-}
-
 /// A field in quotes where a comma, a quote or a line break would end it.
 std::string Quoted(std::string_view field)
 {
@@ -117,47 +108,52 @@ Export CsvOf(const Control& control)
 {
     const ExportRow* row = FindRow(control.Header.Mode);
     if (row == nullptr)
-        return {{}, NoRoute(control, "a table of its curve")};
+        return {{}, NoRoute(control, "a table of its curve"), {}};
     const TraceSlot& slot = control.TraceSlots[0];
     const std::size_t points = UsedPoints(slot);
     if (points == 0)
-        return {{}, "has no points"};
+        return {{}, "has no points", {}};
     std::string text = Quoted(row->X) + ',' + Quoted(row->Value) + ',' + Quoted(row->Phase) + "\r\n";
     for (std::size_t i = 0; i < points; ++i) {
-        AppendNumber(text, row->XOf(control, i));
+        AppendNumberText(text, row->XOf(control, i));
         text += ',';
-        AppendNumber(text, slot.Y[i]);
+        AppendNumberText(text, slot.Y[i]);
         text += ',';
-        AppendNumber(text, row->PhaseOf(control, i));
+        AppendNumberText(text, row->PhaseOf(control, i));
         text += "\r\n";
     }
-    return {std::move(text), {}};
+    const auto isZero = [](float value) { return value == 0; };
+    const auto end = slot.Y.begin() + static_cast<std::ptrdiff_t>(points);
+    if (row->XOf == SweepDistanceOf && std::all_of(slot.Y.begin(), end, isZero))
+        return {
+            std::move(text), {}, "has values of 0 alone: raw magnitudes against distance aren't converted"};
+    return {std::move(text), {}, {}};
 }
 
 Export TouchstoneOf(const Control& control)
 {
     const ExportRow* row = FindRow(control.Header.Mode);
     if (row == nullptr || row->Holds == Reflection::None)
-        return {{}, NoRoute(control, "Touchstone, which takes return loss or SWR against frequency")};
+        return {{}, NoRoute(control, "Touchstone, which takes return loss or SWR against frequency"), {}};
     const TraceSlot& slot = control.TraceSlots[0];
     const std::size_t points = UsedPoints(slot);
     if (points == 0)
-        return {{}, "has no points"};
+        return {{}, "has no points", {}};
     const bool isSwr = row->Holds == Reflection::Swr;
     std::string text = Remark(control.Header) + (isSwr ? "# MHZ S MA R 50\r\n" : "# MHZ S DB R 50\r\n");
     for (std::size_t i = 0; i < points; ++i) {
         if (i > 0 && !(slot.X[i] > slot.X[i - 1]))
-            return {{}, "can't be written as Touchstone: its frequencies don't rise from point to point"};
+            return {{}, "can't be written as Touchstone: its frequencies don't rise from point to point", {}};
         if (isSwr && !(slot.Y[i] >= 1))
-            return {{}, "can't be written as Touchstone: it has an SWR below 1"};
-        AppendNumber(text, slot.X[i]);
+            return {{}, "can't be written as Touchstone: it has an SWR below 1", {}};
+        AppendNumberText(text, slot.X[i]);
         text += ' ';
-        AppendNumber(text, isSwr ? (slot.Y[i] - 1) / (slot.Y[i] + 1) : slot.Y[i]);
+        AppendNumberText(text, isSwr ? (slot.Y[i] - 1) / (slot.Y[i] + 1) : slot.Y[i]);
         text += ' ';
-        AppendNumber(text, row->PhaseOf(control, i));
+        AppendNumberText(text, row->PhaseOf(control, i));
         text += "\r\n";
     }
-    return {std::move(text), {}};
+    return {std::move(text), {}, {}};
 }
 
 } // namespace Traces::Cli

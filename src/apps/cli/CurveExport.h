@@ -10,9 +10,10 @@ struct Control;
 
 namespace Traces::Cli {
 
-/// A file's content; empty with the reason in `Problem` when the trace can't be written so.
+/// A file's content; empty with the reason in `Problem` when the trace can't be written so. `Note` is what a
+/// reader of the file should know.
 struct Export {
-    std::string Content, Problem;
+    std::string Content, Problem, Note;
 };
 
 /// A row of headings with units, then a row a point: frequency or distance, value, phase.

@@ -36,9 +36,12 @@ std::string RawProblem(std::string_view content)
     constexpr int shortest = 100;
     constexpr int tolerance = 2;
     const RawBuffer buffer = RawBuffer::FromText(content);
+    constexpr std::size_t longest = 32767;
     const bool spectrogram = content.size() > LongestPlainTrace;
     const int length = ReadI16(buffer, lengthOffset).value_or(0);
     const std::string size = std::to_string(content.size());
+    if (content.size() > longest)
+        return "isn't a trace: " + size + " bytes are more than one has";
     if (!spectrogram && length < shortest)
         return "isn't a trace: its " + size + " bytes don't begin with a trace's length";
     if (!spectrogram && static_cast<std::size_t>(length) > content.size() + tolerance)

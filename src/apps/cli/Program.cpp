@@ -22,22 +22,21 @@ std::vector<OptionHelp> OptionsOf(const CLI::App& command)
     return options;
 }
 
-/// An option whose text a parser turns into a value.
+/// An option whose text a parser turns into a value; `wants` says what the parser takes.
 template <class Value, class Parse>
-CLI::Option* AddParsed(CLI::App& command, const std::string& name, const std::string& typeName,
+CLI::Option* AddParsed(CLI::App& command, const std::string& name, const std::string& wants,
                        const std::string& description, Parse parse, std::function<void(Value)> take)
 {
     const auto read = [=](const CLI::results_t& texts) {
         for (const std::string& text : texts) {
             const auto value = parse(text);
             if (!value)
-                return false;
+                throw CLI::ValidationError(name, text + " isn't " + wants);
             take(*value);
         }
         return true;
     };
-    CLI::Option* option = command.add_option(name, read, description);
-    return option->type_name(typeName)->type_size(1);
+    return command.add_option(name, read, description)->type_size(1);
 }
 
 void AddInfo(CLI::App& program, Console& console, Command& chosen, InfoOptions& options)
@@ -55,20 +54,25 @@ CLI::App* AddRender(CLI::App& program, Console& console, Command& chosen, Render
     command->add_option("-o,--output", options.Out, "Picture, a folder for several, - for standard output")
         ->type_name("OUT")
         ->required();
-    AddParsed<PictureFormat>(*command, "--format", "FORMAT",
+    AddParsed<PictureFormat>(*command, "--format", "svg, png or pdf",
                              "svg, png or pdf; else by the name of OUT, and svg in a folder", PictureFormatOf,
-                             [&](PictureFormat format) { options.Format = format; });
-    AddParsed<PictureSize>(*command, "--size", "WxH", "Size in pixels; 550x480, 911x480 with --params",
-                           ParseSize, [&](PictureSize size) { options.Size = size; });
+                             [&](PictureFormat format) { options.Format = format; })
+        ->type_name("FORMAT");
+    AddParsed<PictureSize>(*command, "--size", "WIDTHxHEIGHT, each from 1 to 16384",
+                           "Size in pixels; 550x480, 911x480 with --params", ParseSize,
+                           [&](PictureSize size) { options.Size = size; })
+        ->type_name("WxH");
     command->add_flag("--params", options.Params, "With the summary pane beside the chart");
     command->add_option("--view", options.View, "Sub view of a mode that has several")->type_name("NAME");
-    AddParsed<MarkerRequest>(*command, "--marker", "N@X",
+    AddParsed<MarkerRequest>(*command, "--marker", "N@X, with a marker N from 1 to 6",
                              "Marker 1 to 6 at the point nearest to X; may be given again", ParseMarker,
                              [&](MarkerRequest marker) { options.Markers.push_back(marker); })
-        ->expected(1)
+        ->type_name("N@X")
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    AddParsed<ZoomRequest>(*command, "--zoom", "X1,X2,Y1,Y2", "Window in the chart's units", ParseZoom,
-                           [&](ZoomRequest zoom) { options.Zoom = zoom; });
+    AddParsed<ZoomRequest>(*command, "--zoom", "X1,X2,Y1,Y2, with ends that differ",
+                           "Window in the chart's units", ParseZoom,
+                           [&](ZoomRequest zoom) { options.Zoom = zoom; })
+        ->type_name("X1,X2,Y1,Y2");
     command->add_flag("--autoscale", options.AutoScale, "Y axis by the data");
     command->callback([&] { chosen = [&] { return RunRender(console, options); }; });
     return command;
