@@ -117,6 +117,7 @@ void Clear(Control& control)
         box->Erase();
     for (std::size_t slot = 0; slot < LiveSlots; ++slot)
         control.TraceSlots[slot].Length = 0;
+    control.Platform.Repaint();
 }
 
 void RedrawTrace(Control& control)
@@ -124,12 +125,22 @@ void RedrawTrace(Control& control)
     for (ChartSurface* holder : control.Holders())
         holder->Visible = false;
     const ModeRow* row = CurrentRow(control);
-    if (row == nullptr || row->View == nullptr)
-        return;
-    if (row->Holder != nullptr)
-        (control.*row->Holder).Visible = true;
-    row->View(control);
+    if (row != nullptr && row->View != nullptr) {
+        if (row->Holder != nullptr)
+            (control.*row->Holder).Visible = true;
+        row->View(control);
+    }
     control.Platform.Repaint();
+}
+
+bool TryRedrawTrace(Control& control)
+{
+    try {
+        RedrawTrace(control);
+        return true;
+    } catch (const HostFault&) {
+        return false;
+    }
 }
 
 } // namespace Traces

@@ -48,11 +48,11 @@ std::size_t TraceText::PlaceIndex::Find(std::uint32_t hash, Test test) const
     return std::string_view::npos;
 }
 
-std::size_t TraceText::NextCharacter::From(std::string_view text, std::size_t place) const
+std::size_t TraceText::NextCharacter::From(std::string_view whole, std::size_t place) const
 {
     if (place >= askedFrom && place <= answer)
         return answer;
-    const std::size_t found = std::min(text.find(character, place), text.size());
+    const std::size_t found = std::min(whole.find(character, place), whole.size());
     askedFrom = place;
     answer = found;
     return found;

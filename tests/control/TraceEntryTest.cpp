@@ -50,9 +50,9 @@ TEST_F(TraceEntry, AcceptsByTheLengthInTheHeader)
         bool accepted;
     };
     static constexpr Case cases[] = {
-        {"shorter than any trace", 99, 99, false}, {"shortest", 100, 100, true},
-        {"two bytes more than sent", 100, 102, true}, {"three bytes more", 100, 103, false},
-        {"stated too short", 200, 99, false},      {"negative", 200, 0xFFFF, false},
+        {"shorter than any trace", 99, 99, false},     {"shortest", 100, 100, true},
+        {"two bytes more than sent", 100, 102, true},  {"three bytes more", 100, 103, false},
+        {"stated too short", 200, 99, false},          {"negative", 200, 0xFFFF, false},
         {"longest with a header", 30000, 30000, true},
     };
     for (const auto& c : cases) {
@@ -105,9 +105,10 @@ TEST_F(TraceEntry, PointCountsWithoutACurveAreFaults)
         int points;
         std::optional<FaultKind> fault;
     };
-    static constexpr Case cases[] = {{0, FaultKind::Range},   {-3, FaultKind::Range},  {1, FaultKind::DivisionByZero},
-                                     {2, std::nullopt},       {601, std::nullopt},     {602, FaultKind::Range},
-                                     {700, FaultKind::Range}, {32767, FaultKind::Range}};
+    static constexpr Case cases[] = {
+        {0, FaultKind::Range},   {-3, FaultKind::Range},   {1, FaultKind::DivisionByZero},
+        {2, std::nullopt},       {601, std::nullopt},      {602, FaultKind::Range},
+        {700, FaultKind::Range}, {32767, FaultKind::Range}};
     for (const auto& c : cases) {
         RawBuilder raw = RawSweep(0, std::vector<std::int32_t>(700, 5000));
         raw.Number(55, 2, c.points);

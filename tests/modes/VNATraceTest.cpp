@@ -3,12 +3,11 @@
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
 #include "control/Plot.h"
-#include "formats/Checksum.h"
 #include "formats/Files.h"
 #include "formats/HostFault.h"
 #include "support/RawBuilder.h"
+#include "support/TraceFiles.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -16,14 +15,7 @@ namespace {
 
 using Testing::RawBuilder;
 using Testing::RawSweep;
-
-/// A trace file's text with its checksum set right.
-std::string WithChecksum(std::string lines)
-{
-    std::string text = std::string(EmptyChecksumLine) + std::move(lines);
-    const std::size_t field = FindChecksumField(text);
-    return text.replace(field, ChecksumWidth, ComputeChecksum(text, field));
-}
+using Testing::WithChecksum;
 
 class VNATrace : public testing::Test {
 protected:
@@ -78,14 +70,32 @@ TEST_F(VNATrace, MagnitudesConvertByMode)
 TEST_F(VNATrace, ListsEveryFieldInTheOrderOfTheLayout)
 {
     ASSERT_TRUE(plot.ShowTrace(RawSweep(0, {1000, 10000}).Bytes()));
-    const std::vector<std::string> expected = {
-        "Trace length:\t340", "Model:\tTRC-100", "Version:\t3.20", "Mode:\tRL Frequency", "Date:\t11/22/2026",
-        "Time:\t10:20:30", std::string("Ref Number:\tTOWER7") + std::string(10, '\0'), "DataPoints:\t2",
-        "Start Frequency:\t824", "Stop Frequency:\t894.5", "Min Freq Step Size:\t0.0125", "Scale Top:\t1.5",
-        "Scale Bottom:\t30.25", "Freq Marker 1:\t101", "Freq Marker 2:\t102", "Freq Marker 3:\t103",
-        "Freq Marker 4:\t104", "Freq Marker 5:\t105", "Freq Marker 6:\t106", "Single Limit:\t-14",
-        "Mult Limit Seg 1:\t1", "Mult Limit Seg Status 1:\t11", "Mult Limit Start X 1:\t1000",
-        "Mult Limit Start Y 1:\t-10", "Mult Limit End X 1:\t2000", "Mult Limit End Y 1:\t-20"};
+    const std::vector<std::string> expected = {"Trace length:\t340",
+                                               "Model:\tTRC-100",
+                                               "Version:\t3.20",
+                                               "Mode:\tRL Frequency",
+                                               "Date:\t11/22/2026",
+                                               "Time:\t10:20:30",
+                                               std::string("Ref Number:\tTOWER7") + std::string(10, '\0'),
+                                               "DataPoints:\t2",
+                                               "Start Frequency:\t824",
+                                               "Stop Frequency:\t894.5",
+                                               "Min Freq Step Size:\t0.0125",
+                                               "Scale Top:\t1.5",
+                                               "Scale Bottom:\t30.25",
+                                               "Freq Marker 1:\t101",
+                                               "Freq Marker 2:\t102",
+                                               "Freq Marker 3:\t103",
+                                               "Freq Marker 4:\t104",
+                                               "Freq Marker 5:\t105",
+                                               "Freq Marker 6:\t106",
+                                               "Single Limit:\t-14",
+                                               "Mult Limit Seg 1:\t1",
+                                               "Mult Limit Seg Status 1:\t11",
+                                               "Mult Limit Start X 1:\t1000",
+                                               "Mult Limit Start Y 1:\t-10",
+                                               "Mult Limit End X 1:\t2000",
+                                               "Mult Limit End Y 1:\t-20"};
     const auto lines = plot.Parameters();
     ASSERT_EQ(lines.size(), 8U + 62 + 2);
     for (std::size_t i = 0; i < expected.size(); ++i)
@@ -93,10 +103,11 @@ TEST_F(VNATrace, ListsEveryFieldInTheOrderOfTheLayout)
     const std::vector<std::string> tail = {
         "Mult Limit End Y 5:\t-24", "Start Distance:\t5", "Stop Distance:\t250", "Distance Marker 1:\t201",
         // markers 3 to 6 show marker 2
-        "Distance Marker 2:\t202", "Distance Marker 3:\t202", "Distance Marker 4:\t202", "Distance Marker 5:\t202",
-        "Distance Marker 6:\t202", "Rel Prop Velocity:\t0.66", "Cable Loss:\t0.12345", "Ave Cable Loss:\t0.35",
-        "Status Byte 1:\t31", "Status Byte 2:\t32", "Status Byte 3:\t33", "Status Byte 4:\t34", "Status Byte 5:\t35",
-        "VNA Signal Std:\tGSM 900", "GPS Latitude:\t40250170", "GPS Longitude:\t-3422250", "GPS Altitude:\t-667",
+        "Distance Marker 2:\t202", "Distance Marker 3:\t202", "Distance Marker 4:\t202",
+        "Distance Marker 5:\t202", "Distance Marker 6:\t202", "Rel Prop Velocity:\t0.66",
+        "Cable Loss:\t0.12345", "Ave Cable Loss:\t0.35", "Status Byte 1:\t31", "Status Byte 2:\t32",
+        "Status Byte 3:\t33", "Status Byte 4:\t34", "Status Byte 5:\t35", "VNA Signal Std:\tGSM 900",
+        "GPS Latitude:\t40250170", "GPS Longitude:\t-3422250", "GPS Altitude:\t-667",
         "Data point 0:\t-20\t132.1", "Data point 1:\t0\t-117.9"};
     for (std::size_t i = 0; i < tail.size(); ++i)
         EXPECT_EQ(lines[lines.size() - tail.size() + i], tail[i]);
@@ -141,9 +152,8 @@ TEST_F(VNATrace, ShortBuffersReadAsZeroBehindTheirEnd)
 
 TEST_F(VNATrace, SaveLoadAndSaveGiveTheSameFile)
 {
-    const auto folder = std::filesystem::temp_directory_path() / "traces-vna-test";
-    std::filesystem::create_directories(folder);
-    std::string first = (folder / "first.vna").string();
+    const Testing::TemporaryFolder folder;
+    std::string first = folder / "first.vna";
     RawBuilder raw = RawSweep(0, {1234, 0, 7777});
     raw.Number(202, 4, 4'025'017); // 7 digits survive the float that loaders go through
     ASSERT_TRUE(plot.SaveRawTraceB(raw.AsText(), first));
@@ -155,10 +165,9 @@ TEST_F(VNATrace, SaveLoadAndSaveGiveTheSameFile)
     EXPECT_EQ(plot.Parameters().size(), 8U) << "a text loader lists the header alone";
     EXPECT_EQ(state.TraceSlots[0].Length, 3);
     state.TraceSaved = true;
-    std::string second = (folder / "second.vna").string();
+    std::string second = folder / "second.vna";
     ASSERT_TRUE(plot.SaveTrace(second));
     EXPECT_EQ(ReadWholeFile(first), ReadWholeFile(second));
-    std::filesystem::remove_all(folder);
 }
 
 TEST_F(VNATrace, LoadingKeepsWhatTheFileDoesNotGive)
@@ -212,7 +221,8 @@ TEST_F(VNATrace, AChangedFileIsRefusedWithAMessageAndChangesNothing)
     std::string text = WithChecksum("Mode:\tRL Frequency\r\nScale Top:\t9\r\n");
     text[text.size() - 3] = '8';
     const DisplayList before = state.VNABox.Picture();
-    for (const std::string& refused : {text, std::string("Mode:\tRL Frequency\r\n"), std::string("CHECKSUM=123\r\n")}) {
+    for (const std::string& refused :
+         {text, std::string("Mode:\tRL Frequency\r\n"), std::string("CHECKSUM=123\r\n")}) {
         platform.Messages.clear();
         plot.LoadVNAText(refused, {});
         ASSERT_EQ(platform.Messages.size(), 1U) << refused;

@@ -11,7 +11,7 @@ namespace Traces::Testing {
 
 class RawBuilder {
 public:
-    explicit RawBuilder(std::size_t length) : bytes(length, 0) {}
+    explicit RawBuilder(std::size_t length, char fill = 0) : bytes(length, static_cast<std::uint8_t>(fill)) {}
 
     RawBuilder& Number(int offset, int width, std::int64_t value)
     {
@@ -59,12 +59,17 @@ inline RawBuilder RawSweep(int mode, const std::vector<std::int32_t>& magnitudes
         raw.Number(at, 1, s + 1).Number(at + 1, 1, s + 11).Number(at + 2, 4, 1000 + s);
         raw.Number(at + 6, 2, -10 - s).Number(at + 8, 4, 2000 + s).Number(at + 12, 2, -20 - s);
     }
-    raw.Number(163, 4, 5).Number(167, 4, 250).Number(183, 4, 66'000).Number(187, 4, 12'345).Number(191, 4, 350);
+    raw.Number(163, 4, 5)
+        .Number(167, 4, 250)
+        .Number(183, 4, 66'000)
+        .Number(187, 4, 12'345)
+        .Number(191, 4, 350);
     for (int k = 0; k < 5; ++k)
         raw.Number(195 + k, 1, 31 + k);
     raw.Number(200, 2, 49).Number(202, 4, 40'250'170).Number(206, 4, -3'422'250).Number(210, 2, -667);
     for (int i = 0; i < points; ++i)
-        raw.Number(325 + 8 * i, 4, magnitudes[static_cast<std::size_t>(i)]).Number(329 + 8 * i, 4, 1321 - 2500 * i);
+        raw.Number(325 + 8 * i, 4, magnitudes[static_cast<std::size_t>(i)])
+            .Number(329 + 8 * i, 4, 1321 - 2500 * i);
     return raw;
 }
 
