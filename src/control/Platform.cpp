@@ -1,12 +1,10 @@
 #include "control/Platform.h"
 
 #include "formats/Checksum.h"
+#include "formats/Files.h"
 
 #include <chrono>
-#include <cstdio>
 #include <filesystem>
-#include <memory>
-#include <random>
 #include <system_error>
 
 namespace Traces {
@@ -26,17 +24,7 @@ std::string Platform::GetTempPathA()
 
 std::string Platform::GetTempFileNameA(const std::string& folder, std::string_view prefix)
 {
-    constexpr int tries = 100;
-    std::random_device random;
-    for (int i = 0; i < tries; ++i) {
-        std::string path = folder + std::string(prefix) + std::to_string(random()) + ".tmp";
-        // "x" makes the file only when the name is new.
-        if (std::FILE* file = std::fopen(path.c_str(), "wbx")) { // NOLINT(cppcoreguidelines-owning-memory)
-            static_cast<void>(std::fclose(file));                // NOLINT(cppcoreguidelines-owning-memory)
-            return path;
-        }
-    }
-    return {};
+    return MakeNewFile(folder + std::string(prefix)).value_or(std::string());
 }
 
 std::int32_t Platform::TavrixChecksumStdCall(const std::string& path, std::string_view key)

@@ -15,16 +15,30 @@ namespace {
 /// The component's own name begins the names of its temporary files.
 constexpr std::string_view TempPrefix = "Traces";
 
-/// The field that the checksum library writes into a copy of the text; empty when anything fails.
-std::string FreshChecksumField(Platform& platform, std::string_view text, const std::string& copy)
+/// The field that the checksum library writes into a copy of the text; empty when it fails. The copy is
+/// removed.
+std::string FreshChecksumField(Platform& platform, const std::string& copy)
 {
     std::string field;
-    if (WriteWholeFile(copy, text) && platform.TavrixChecksumStdCall(copy, VerifyChecksumKey) != 0)
+    if (platform.TavrixChecksumStdCall(copy, VerifyChecksumKey) != 0)
         if (const auto rewritten = ReadWholeFile(copy))
             field = ReadChecksumField(*rewritten);
     std::error_code error;
     std::filesystem::remove(copy, error);
     return field;
+}
+
+/// Writes the text to a temporary file, or to `path` when none can be made. The file's name; empty when it
+/// couldn't be written.
+std::string WriteCopy(Platform& platform, std::string_view text, const std::string& path)
+{
+    // The test and the use each make a name, so one empty file stays behind at every verify. Tools that
+    // clean up after the instruments' software count on it.
+    if (MakeTempName(platform).empty())
+        return !path.empty() && WriteWholeFile(path, text) ? path : std::string();
+    // The file is there and empty; to truncate it would cost a flush of the disk.
+    const std::string copy = MakeTempName(platform);
+    return OverwriteFileBytes(copy, 0, text) ? copy : std::string();
 }
 
 } // namespace
@@ -45,10 +59,8 @@ bool VerifyTraceChecksum(Platform& platform, std::string_view text, const std::s
     const std::string stored = ReadChecksumField(text);
     bool verified = false;
     if (stored.size() == ChecksumWidth) {
-        // The test and the use each make a name, so one empty file stays behind at every verify. Tools that
-        // clean up after the instruments' software count on it.
-        const std::string copy = MakeTempName(platform).empty() ? path : MakeTempName(platform);
-        verified = !copy.empty() && FreshChecksumField(platform, text, copy) == stored;
+        const std::string copy = WriteCopy(platform, text, path);
+        verified = !copy.empty() && FreshChecksumField(platform, copy) == stored;
     }
     if (!verified)
         platform.MessageBox({"File Open", "Failed to open trace file.  Checksum failed.", MessageIcon::Stop});

@@ -8,24 +8,39 @@ namespace Traces {
 
 namespace {
 
-constexpr std::array<std::uint32_t, 256> MakeCrcTable()
+using CrcTable = std::array<std::uint32_t, 256>;
+
+/// Tables for eight bytes at a time: table k takes a byte that k more follow.
+constexpr std::array<CrcTable, 8> MakeCrcTables()
 {
     constexpr std::uint32_t reversedPolynomial = 0xEDB88320;
-    std::array<std::uint32_t, 256> table{};
-    for (std::uint32_t i = 0; i < table.size(); ++i) {
+    std::array<CrcTable, 8> tables{};
+    for (std::uint32_t i = 0; i < tables[0].size(); ++i) {
         std::uint32_t crc = i;
         for (int bit = 0; bit < 8; ++bit)
             crc = (crc & 1) != 0 ? crc >> 1 ^ reversedPolynomial : crc >> 1;
-        table[i] = crc;
+        tables[0][i] = crc;
     }
-    return table;
+    for (std::size_t k = 1; k < tables.size(); ++k)
+        for (std::size_t i = 0; i < tables[0].size(); ++i)
+            tables[k][i] = tables[k - 1][i] >> 8 ^ tables[0][tables[k - 1][i] & 0xFF];
+    return tables;
 }
 
 std::uint32_t UpdateCrc(std::uint32_t crc, std::string_view bytes)
 {
-    static constexpr auto table = MakeCrcTable();
-    for (const char byte : bytes)
-        crc = crc >> 8 ^ table[(crc ^ static_cast<unsigned char>(byte)) & 0xFF];
+    static constexpr auto tables = MakeCrcTables();
+    const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+    for (; bytes.size() >= tables.size(); bytes.remove_prefix(tables.size())) {
+        std::uint32_t next = 0;
+        for (std::size_t i = 0; i < tables.size(); ++i) {
+            const std::uint32_t byte = i < 4 ? (crc >> (8 * i) & 0xFF) ^ at(i) : at(i);
+            next ^= tables[tables.size() - 1 - i][byte];
+        }
+        crc = next;
+    }
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        crc = crc >> 8 ^ tables[0][(crc ^ at(i)) & 0xFF];
     return crc;
 }
 

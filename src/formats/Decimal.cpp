@@ -94,15 +94,13 @@ Decimal NearestDecimal(float value)
     int scale = ShownDigits<float> - 1 - decimalExponent;
     if (std::abs(scale) <= LargestExactPower - 1) {
         // One operation on exact operands, so the only error is its own rounding, below 1e-8 here. The
-        // digits are proven when the fraction is further than that from a half.
+        // digits are proven when they are nearer than a half by more than that.
         const double magnitude = std::bit_cast<float>(bits & 0x7FFF'FFFFU);
         double scaled = TimesPowerOfTen(magnitude, scale);
         if (scaled >= beyond)
             scaled = TimesPowerOfTen(magnitude, --scale);
-        const auto whole = static_cast<std::int32_t>(scaled);
-        const double fraction = scaled - whole;
-        if (std::abs(fraction - 0.5) > 1e-8) {
-            const auto digits = static_cast<std::uint32_t>(whole) + (fraction > 0.5 ? 1U : 0U);
+        const auto digits = static_cast<std::uint32_t>(static_cast<std::int32_t>(scaled + 0.5));
+        if (std::abs(scaled - digits) < 0.5 - 1e-8) {
             if (digits == beyond)
                 return {smallest, 1 - scale, negative};
             return {digits, -scale, negative};

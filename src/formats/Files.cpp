@@ -1,10 +1,10 @@
 #include "formats/Files.h"
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
-#include <random>
 #include <system_error>
 
 namespace Traces {
@@ -12,6 +12,9 @@ namespace Traces {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// Begins the names of temporary files.
+constexpr std::string_view TempPrefix = "Traces";
 
 struct FileCloser {
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
@@ -29,19 +32,6 @@ bool Write(File file, std::string_view content)
         return false;
     // The close writes what is still in the buffer, so a full disk may show only now.
     return std::fclose(file.release()) == 0;
-}
-
-/// A new file in a folder, under a name that no other has.
-std::pair<File, std::string> OpenTemporary(const fs::path& folder)
-{
-    constexpr int tries = 100;
-    std::random_device random;
-    for (int i = 0; i < tries; ++i) {
-        std::string name = (folder / ("Traces" + std::to_string(random()) + ".tmp")).string();
-        if (File file = Open(name, "wbx"))
-            return {std::move(file), std::move(name)};
-    }
-    return {};
 }
 
 /// Where a save really goes: the file behind symbolic links, also one that isn't there yet. Nothing for
@@ -67,16 +57,16 @@ bool SendFinished(const std::string& path, std::string_view content, const Finis
 {
     std::error_code error;
     const fs::path folder = fs::temp_directory_path(error);
-    if (error)
+    const auto copy = error ? std::nullopt : MakeNewFile((folder / TempPrefix).string());
+    if (!copy)
         return false;
-    auto [file, copy] = OpenTemporary(folder);
     bool sent = false;
-    if (Write(std::move(file), content)) {
-        finish(copy);
-        const auto finished = ReadWholeFile(copy);
+    if (OverwriteFileBytes(*copy, 0, content)) {
+        finish(*copy);
+        const auto finished = ReadWholeFile(*copy);
         sent = finished && WriteWholeFile(path, *finished);
     }
-    fs::remove(copy, error);
+    fs::remove(*copy, error);
     return sent;
 }
 
@@ -113,6 +103,19 @@ bool OverwriteFileBytes(const std::string& path, std::size_t place, std::string_
     return Write(std::move(file), bytes);
 }
 
+std::optional<std::string> MakeNewFile(const std::string& stem)
+{
+    constexpr int tries = 100;
+    for (int i = 0; i < tries; ++i) {
+        const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
+        std::string path = stem + std::to_string(ticks) + ".tmp";
+        // "x" opens the file only when the name is new, whoever else may try the same.
+        if (Open(path, "wbx"))
+            return path;
+    }
+    return std::nullopt;
+}
+
 bool ReplaceFile(const std::string& path, std::string_view content, const Finish& finish)
 {
     std::error_code error;
@@ -123,18 +126,19 @@ bool ReplaceFile(const std::string& path, std::string_view content, const Finish
     // A rename asks the folder for permission, not the file: a protected one has to be asked for here.
     if (!target || (fs::exists(old) && !Open(*target, "ab")))
         return false;
-    auto [file, beside] = OpenTemporary(fs::path(*target).parent_path());
-    if (!file)
+    const auto beside = MakeNewFile((fs::path(*target).parent_path() / TempPrefix).string());
+    if (!beside)
         return false;
-    if (Write(std::move(file), content)) {
-        finish(beside);
+    // The new file is empty; to truncate it would cost a flush of the disk.
+    if (OverwriteFileBytes(*beside, 0, content)) {
+        finish(*beside);
         if (fs::exists(old))
-            fs::permissions(beside, old.permissions(), error);
-        fs::rename(beside, *target, error);
+            fs::permissions(*beside, old.permissions(), error);
+        fs::rename(*beside, *target, error);
         if (!error)
             return true;
     }
-    fs::remove(beside, error);
+    fs::remove(*beside, error);
     return false;
 }
 

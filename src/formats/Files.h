@@ -18,6 +18,9 @@ bool WriteWholeFile(const std::string& path, std::string_view content);
 /// Writes over the bytes from a place on in an existing file.
 bool OverwriteFileBytes(const std::string& path, std::size_t place, std::string_view bytes);
 
+/// Makes an empty file whose name begins with a stem and is new. Its path; nothing when it can't be made.
+std::optional<std::string> MakeNewFile(const std::string& stem);
+
 /// Replaces a file so that at any moment either the old or the new content stands under its name: writes
 /// in the same folder, lets `finish` work on the written file, and renames. `finish` gets the name of the
 /// file as it stands then. Links and permissions stay. What isn't a regular file (a pipe, a device) can't

@@ -4,109 +4,12 @@
 #include "formats/Text.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
-#include <cstdlib>
-#include <cstring>
 #include <limits>
 #include <type_traits>
 
 namespace Traces {
 
 namespace {
-
-// Longest text of a double: sign, 15 digits, point, "0.000" or "E-308", rounded up.
-using NumberBuffer = std::array<char, 32>;
-
-constexpr auto DigitPairs = [] {
-    std::array<char, 200> pairs{};
-    for (std::size_t i = 0; i < 100; ++i) {
-        pairs[2 * i] = static_cast<char>('0' + i / 10);
-        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-    }
-    return pairs;
-}();
-
-void PutPair(char* to, std::uint32_t value)
-{
-    std::memcpy(to, &DigitPairs[std::size_t{2} * value], 2);
-}
-
-// Writes exactly `count` digits (an odd number) and gives how many are left without trailing zeros.
-template <int count>
-int PutDigits(char* to, std::uint64_t value)
-{
-    for (int at = count - 2; at > 0; at -= 2) {
-        PutPair(to + at, static_cast<std::uint32_t>(value % 100));
-        value /= 100;
-    }
-    to[0] = static_cast<char>('0' + value);
-    int kept = count;
-    while (kept > 1 && to[kept - 1] == '0')
-        --kept;
-    return kept;
-}
-
-char* PutText(char* to, std::string_view text)
-{
-    std::memcpy(to, text.data(), text.size());
-    return to + text.size();
-}
-
-char* PutExponent(char* to, int exponent)
-{
-    *to++ = 'E';
-    *to++ = exponent < 0 ? '-' : '+';
-    const auto magnitude = static_cast<std::uint32_t>(std::abs(exponent));
-    if (magnitude >= 100)
-        *to++ = static_cast<char>('0' + magnitude / 100);
-    PutPair(to, magnitude % 100);
-    return to + 2;
-}
-
-template <class T>
-char* PutNumber(char* to, T value)
-{
-    constexpr int precision = ShownDigits<T>;
-    if (!std::isfinite(value))
-        return PutText(to, std::isnan(value) ? "NAN" : value < 0 ? "-INF" : "INF");
-    const Decimal decimal = NearestDecimal(value);
-    if (decimal.Negative)
-        *to++ = '-';
-    if (decimal.Significand == 0)
-        return PutText(to, "0");
-
-    const int exponent = static_cast<int>(decimal.Exponent) + precision - 1; // of the first digit
-    if (exponent < 0 && exponent >= -4) {
-        std::memcpy(to, "0.000", 5);
-        to += 1 - exponent;
-        return to + PutDigits<precision>(to, decimal.Significand);
-    }
-    const bool plain = exponent >= 0 && exponent < precision;
-    const int integerDigits = plain ? exponent + 1 : 1;
-    const int kept = PutDigits<precision>(to, decimal.Significand);
-    if (kept > integerDigits) {
-        // The digits behind the point move one position on; a fixed count costs least.
-        char* const point = to + integerDigits;
-        std::memmove(point + 1, point, precision - 1);
-        *point = '.';
-        to += kept + 1;
-    } else {
-        to += integerDigits;
-    }
-    return plain ? to : PutExponent(to, exponent);
-}
-
-template <class T>
-std::string TextOf(T value)
-{
-    NumberBuffer buffer;
-    if constexpr (std::is_floating_point_v<T>)
-        return {buffer.data(), PutNumber(buffer.data(), value)};
-    else
-        return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
-}
 
 bool IsDigit(char c)
 {
@@ -226,18 +129,18 @@ double LenientPrefixed(LenientReader reader)
 struct PrefixedNumber {
     double Magnitude = 0;
     std::size_t Digits = 0;
-    int Base = 0;
 };
 
 std::optional<PrefixedNumber> StrictPrefixed(std::string_view text)
 {
     if (text.size() < 3)
         return std::nullopt;
-    PrefixedNumber number{0, text.size() - 2, PrefixBase(text[1])};
+    const int base = PrefixBase(text[1]);
+    PrefixedNumber number{0, text.size() - 2};
     for (const char c : text.substr(2)) {
-        if (DigitValue(c) >= number.Base)
+        if (DigitValue(c) >= base)
             return std::nullopt;
-        number.Magnitude = number.Magnitude * number.Base + DigitValue(c);
+        number.Magnitude = number.Magnitude * base + DigitValue(c);
     }
     return number;
 }
@@ -302,52 +205,14 @@ std::optional<T> FromPrefixed(const PrefixedNumber& number)
     } else {
         constexpr double largest = std::numeric_limits<T>::max();
         double value = number.Magnitude;
-        if (std::is_signed_v<T> && number.Base == 16 && number.Digits == 2 * sizeof(T) && value > largest)
+        // An octal number of so few digits never gets beyond the largest.
+        if (std::is_signed_v<T> && number.Digits == 2 * sizeof(T) && value > largest)
             value -= 2 * (largest + 1);
         return RoundTo<T>(value);
     }
 }
 
 } // namespace
-
-std::string NumberText(std::int64_t value)
-{
-    return TextOf(value);
-}
-std::string NumberText(std::int32_t value)
-{
-    return TextOf(value);
-}
-std::string NumberText(std::int16_t value)
-{
-    return TextOf(value);
-}
-std::string NumberText(std::uint8_t value)
-{
-    return TextOf(int{value});
-}
-std::string NumberText(float value)
-{
-    return TextOf(value);
-}
-std::string NumberText(double value)
-{
-    return TextOf(value);
-}
-
-void AppendNumberText(std::string& text, float value)
-{
-    NumberBuffer buffer;
-    text.append(buffer.data(), PutNumber(buffer.data(), value));
-}
-
-std::string SignedNumberText(std::int32_t value)
-{
-    std::string text = NumberText(value);
-    if (value >= 0)
-        text.insert(text.begin(), ' ');
-    return text;
-}
 
 double ValueOf(std::string_view text)
 {
