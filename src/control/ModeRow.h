@@ -3,6 +3,7 @@
 #pragma once
 
 #include "control/ChildControls.h"
+#include "control/MarkerSet.h"
 #include "formats/RawBuffer.h"
 
 #include <cstdint>
@@ -13,6 +14,7 @@
 namespace Traces {
 
 struct Control;
+struct FileKind;
 
 /// What a measurement mode does. A null function means that the mode has no such route.
 struct ModeRow {
@@ -20,6 +22,9 @@ struct ModeRow {
 
     /// The holder that a redraw shows for this mode.
     ChartSurface ChildControls::*Holder;
+
+    /// The family's markers; null for a mode without markers.
+    MarkerSet Control::*Markers;
 
     /// Fills the family's record and the parameter list from a raw trace.
     void (*Decode)(Control& control, const RawBuffer& buffer);
@@ -38,6 +43,9 @@ struct ModeRow {
     /// @throws HostFault for a value or a position that the frame can't hold.
     std::string (*EncodeRecord)(const Control& control);
     std::string (*EncodeRaw)(std::string_view file);
+
+    /// How a text file of this mode is loaded, whatever it is called; null when there are none.
+    const FileKind* TextFile;
 };
 
 /// What an extension of text trace files stands for.

@@ -13,9 +13,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Begins the names of temporary files.
-constexpr std::string_view TempPrefix = "Traces";
-
 struct FileCloser {
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
@@ -57,7 +54,9 @@ bool SendFinished(const std::string& path, std::string_view content, const Finis
 {
     std::error_code error;
     const fs::path folder = fs::temp_directory_path(error);
-    const auto copy = error ? std::nullopt : MakeNewFile((folder / TempPrefix).string());
+    if (error)
+        return false;
+    const auto copy = MakeNewFile((folder / "Traces").string());
     if (!copy)
         return false;
     bool sent = false;
@@ -126,10 +125,9 @@ bool ReplaceFile(const std::string& path, std::string_view content, const Finish
     // A rename asks the folder for permission, not the file: a protected one has to be asked for here.
     if (!target || (fs::exists(old) && !Open(*target, "ab")))
         return false;
-    const auto beside = MakeNewFile((fs::path(*target).parent_path() / TempPrefix).string());
+    const auto beside = MakeNewFile((fs::path(*target).parent_path() / "Traces").string());
     if (!beside)
         return false;
-    // The new file is empty; to truncate it would cost a flush of the disk.
     if (OverwriteFileBytes(*beside, 0, content)) {
         finish(*beside);
         if (fs::exists(old))
