@@ -198,8 +198,8 @@ TEST_F(Program, ExportsReflectionsAsTouchstoneAndNothingElse)
     const std::string remark = "! TRC-100, TOWER7, 11/22/2026, 10:20:30\r\n";
     EXPECT_EQ(file(0).Out,
               remark + "# MHZ S DB R 50\r\n824 -20 132.1\r\n859.25 -6.0206 -117.9\r\n894.5 0 -367.9\r\n");
-    // Total reflection reads as an SWR of 65.
-    EXPECT_EQ(file(1).Out, remark + "# MHZ S MA R 50\r\n824 0.1 132.1\r\n859.25 0.5 -117.9\r\n"
+    // What an SWR of 7 digits says of 0.1; and total reflection is held as an SWR of 65.
+    EXPECT_EQ(file(1).Out, remark + "# MHZ S MA R 50\r\n824 0.09999999 132.1\r\n859.25 0.5 -117.9\r\n"
                                     "894.5 0.969697 -367.9\r\n");
     for (const int mode : {2, 16, 17}) {
         EXPECT_EQ(file(mode).Status, 1) << mode;
