@@ -98,10 +98,15 @@ VNAMagnitude ConvertMagnitude(int mode, std::int32_t raw)
     return {true, static_cast<float>(value)};
 }
 
-void DecodeVNATrace(Control& control, const RawBuffer& buffer)
+void DecodeVNARecord(Control& control, const RawBuffer& buffer)
 {
     DecodeFields(buffer, control.VNA, VNAFields);
     DecodeVNAPoints(control, buffer);
+}
+
+void DecodeVNATrace(Control& control, const RawBuffer& buffer)
+{
+    DecodeVNARecord(control, buffer);
     VNAParams(control);
     control.TraceSaved = false;
 }
@@ -135,16 +140,22 @@ void FillVNACurve(Control& control)
     FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
 }
 
+void LoadVNARecord(Control& control, const TraceText& text)
+{
+    VNARecord& record = control.VNA;
+    const std::string standard = record.VNASignalStd;
+    LoadFields(text, record, VNAFields, Through::Float);
+    LoadVNASignalStd(record, text, standard);
+    LoadVNAPoints(control, text);
+}
+
 void LoadVNAText(Control& control, std::string_view text, const std::string& path)
 {
     const auto traceText = BeginTextLoad(control, text, path);
     if (!traceText)
         return;
-    VNARecord& record = control.VNA;
-    const std::string standard = record.VNASignalStd;
-    LoadFields(*traceText, record, VNAFields, Through::Float);
-    LoadVNASignalStd(record, *traceText, standard);
-    LoadVNAPoints(control, *traceText);
+    LoadVNARecord(control, *traceText);
+    const VNARecord& record = control.VNA;
     FillWhatFits(control, record.StartFreq, record.StopFreq, record.PointValue);
     EndTextLoad(control);
 }

@@ -10,9 +10,13 @@
 namespace Traces {
 
 struct Control;
+class TraceText;
 
 /// Reads the record and its points from a raw trace and lists them.
 void DecodeVNATrace(Control& control, const RawBuffer& buffer);
+
+/// The record and its points alone, without their lines.
+void DecodeVNARecord(Control& control, const RawBuffer& buffer);
 
 /// The magnitude of a point in display units, from the raw linear reflection x 10,000: dB or SWR by the
 /// measurement mode. Nothing for the distance modes, whose points aren't converted.
@@ -32,6 +36,9 @@ void FillVNACurve(Control& control);
 
 /// Loads the text of a trace file; shows the checksum message and changes nothing when it doesn't verify.
 void LoadVNAText(Control& control, std::string_view text, const std::string& path);
+
+/// The record and its points alone, from a text that has been verified and whose header has been read.
+void LoadVNARecord(Control& control, const TraceText& text);
 
 /// Frame from the record on show. It carries dB or SWR where the raw trace carries the reflection.
 std::string EncodeVNARecord(const Control& control);
