@@ -74,6 +74,9 @@ Json TextWidth(Script& script, const ScriptValues& values)
     ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
     if (surface == nullptr)
         return Error("there is no surface " + values.Text(0));
+    // A box that its family's view has yet to place has no units to measure in.
+    if (surface->DeviceWidth() == 0)
+        return Error(values.Text(0) + " has no width yet");
     const float size = std::exchange(surface->Font.Size, values.Number(2));
     const float width = surface->TextWidth(values.Text(1));
     surface->Font.Size = size;
