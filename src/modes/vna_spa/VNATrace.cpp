@@ -13,6 +13,33 @@
 
 namespace Traces {
 
+std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
+{
+    constexpr double lowestReturnLoss = -60;
+    constexpr double highestSWR = 65;
+    const double x = raw / VNAMagnitudeScale;
+    const double a = std::abs(x);
+    double value = 0;
+    switch (mode) {
+    case TraceMode::RLFrequency:
+        value = x == 0 ? lowestReturnLoss : std::max(20 * Log10(a), lowestReturnLoss);
+        break;
+    // The ceiling is for total reflection only: 0.99 is an SWR of 199.
+    case TraceMode::SWRFrequency: value = a < 1 ? (1 + a) / (1 - a) : highestSWR; break;
+    // One-way loss, hence 10 and not 20; and no reflection at all reads as 0 dB, since Log10(0) is 0.
+    case TraceMode::CableLossFrequency: value = std::max(10 * Log10(a), lowestReturnLoss); break;
+    case TraceMode::VNAUnnamed: {
+        constexpr double lowest = -120;
+        constexpr double highest = 100;
+        // The mode's numbers were divided twice from the start.
+        value = x == 0 ? lowest : std::clamp(20 * Log10(a / VNAMagnitudeScale), lowest, highest);
+        break;
+    }
+    default: return std::nullopt;
+    }
+    return static_cast<float>(value);
+}
+
 namespace {
 
 std::size_t PointsInRecord(const Control& control)
@@ -28,8 +55,7 @@ void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
     for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
         const int offset = VNAFirstPoint + VNAPointBytes * static_cast<int>(i);
         if (const auto raw = ReadI32(buffer, offset)) {
-            const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw);
-            if (magnitude)
+            if (const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw))
                 record.PointValue[i] = *magnitude;
         }
         if (const auto raw = ReadI32(buffer, offset + 4))
@@ -41,7 +67,7 @@ void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
 void AppendPointKey(std::string& text, std::size_t point)
 {
     text += "Data point";
-    text += SignedNumberText(static_cast<std::int32_t>(point));
+    AppendSignedNumberText(text, static_cast<std::int32_t>(point));
     text += ':';
 }
 
@@ -70,33 +96,6 @@ void LoadVNASignalStd(VNARecord& record, const TraceText& text, const std::strin
 }
 
 } // namespace
-
-std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
-{
-    constexpr double lowestReturnLoss = -60;
-    constexpr double highestSWR = 65;
-    const double x = raw / VNAMagnitudeScale;
-    const double a = std::abs(x);
-    double value = 0;
-    switch (mode) {
-    case TraceMode::RLFrequency:
-        value = x == 0 ? lowestReturnLoss : std::max(20 * Log10(a), lowestReturnLoss);
-        break;
-    // The ceiling is for total reflection only: 0.99 is an SWR of 199.
-    case TraceMode::SWRFrequency: value = a < 1 ? (1 + a) / (1 - a) : highestSWR; break;
-    // One-way loss, hence 10 and not 20; and no reflection at all reads as 0 dB, since Log10(0) is 0.
-    case TraceMode::CableLossFrequency: value = std::max(10 * Log10(a), lowestReturnLoss); break;
-    case TraceMode::VNAUnnamed: {
-        constexpr double lowest = -120;
-        constexpr double highest = 100;
-        // The mode's numbers were divided twice from the start.
-        value = x == 0 ? lowest : std::clamp(20 * Log10(a / VNAMagnitudeScale), lowest, highest);
-        break;
-    }
-    default: return std::nullopt;
-    }
-    return static_cast<float>(value);
-}
 
 void DecodeVNARecord(Control& control, const RawBuffer& buffer)
 {
