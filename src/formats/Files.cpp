@@ -82,8 +82,11 @@ std::optional<std::string> ReadWholeFile(const std::string& path)
         return std::nullopt;
     std::string content;
     std::array<char, 65536> block; // NOLINT(cppcoreguidelines-pro-type-member-init): fread fills it
-    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file.get()))
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file.get())) {
         content.append(block.data(), count);
+        if (content.size() > LargestFile)
+            return std::nullopt;
+    }
     if (std::ferror(file.get()) != 0)
         return std::nullopt;
     return content;

@@ -50,12 +50,11 @@ Json LoadText(Script& script, const ScriptValues& values)
     return NoResult();
 }
 
-/// A save's result, and the name that was used.
+/// A save's result; the name is the member's own to change.
 template <class Save>
 Json Saved(std::string filename, Save save)
 {
-    const bool saved = save(filename);
-    return {{"result", ToJson(saved)}, {"Filename", filename}};
+    return Result(save(filename));
 }
 
 std::string HexText(std::string_view bytes)
@@ -75,6 +74,9 @@ Json TextWidth(Script& script, const ScriptValues& values)
     ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
     if (surface == nullptr)
         return Error("there is no surface " + values.Text(0));
+    // A box that its family's view has yet to place has no units to measure in.
+    if (surface->DeviceWidth() == 0)
+        return Error(values.Text(0) + " has no width yet");
     const float size = std::exchange(surface->Font.Size, values.Number(2));
     const float width = surface->TextWidth(values.Text(1));
     surface->Font.Size = size;

@@ -15,11 +15,7 @@
 
 namespace Traces {
 
-namespace {
-
-/// ConvertMagnitude, where the compiler may put it into the loop over the points: what other libraries see
-/// could be replaced by theirs.
-VNAMagnitude MagnitudeOf(int mode, std::int32_t raw)
+std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
 {
     constexpr double lowestReturnLoss = -60;
     constexpr double highestSWR = 65;
@@ -41,10 +37,12 @@ VNAMagnitude MagnitudeOf(int mode, std::int32_t raw)
         value = x == 0 ? lowest : std::clamp(20 * Log10(a / VNAMagnitudeScale), lowest, highest);
         break;
     }
-    default: return {false, 0};
+    default: return std::nullopt;
     }
-    return {true, static_cast<float>(value)};
+    return static_cast<float>(value);
 }
+
+namespace {
 
 std::size_t PointsInRecord(const Control& control)
 {
@@ -59,9 +57,8 @@ void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
     for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
         const int offset = VNAFirstPoint + VNAPointBytes * static_cast<int>(i);
         if (const auto raw = ReadI32(buffer, offset)) {
-            const auto magnitude = MagnitudeOf(control.Header.Mode, *raw);
-            if (magnitude.Converted)
-                record.PointValue[i] = magnitude.Value;
+            if (const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw))
+                record.PointValue[i] = *magnitude;
         }
         if (const auto raw = ReadI32(buffer, offset + 4))
             record.PointPhase[i] = static_cast<float>(*raw / VNAPhaseScale);
@@ -144,11 +141,6 @@ void LoadVNASignalStd(VNARecord& record, const TraceText& text, const std::strin
 
 } // namespace
 
-VNAMagnitude ConvertMagnitude(int mode, std::int32_t raw)
-{
-    return MagnitudeOf(mode, raw);
-}
-
 void DecodeVNARecord(Control& control, const RawBuffer& buffer)
 {
     DecodeFields(buffer, control.VNA, VNAFields);
@@ -158,19 +150,17 @@ void DecodeVNARecord(Control& control, const RawBuffer& buffer)
 void DecodeVNATrace(Control& control, const RawBuffer& buffer)
 {
     DecodeVNARecord(control, buffer);
-    VNAParams(control);
+    VNAParams(control, control.lstParameters);
     control.TraceSaved = false;
 }
 
-void VNAParams(Control& control)
+void VNAParams(const Control& control, ParameterList& lines)
 {
-    VNARecord& record = control.VNA;
-    ParameterList& lines = control.lstParameters;
+    const VNARecord& record = control.VNA;
     // The lines of distance markers 3 to 6 have always shown marker 2, and a saved file sets them all to it.
-    const auto markers = record.DistanceMarker;
-    std::fill(record.DistanceMarker.begin() + 2, record.DistanceMarker.end(), markers[1]);
-    AddParamLines(lines, record, VNAFields);
-    record.DistanceMarker = markers;
+    VNARecord shown = record;
+    std::fill(shown.DistanceMarker.begin() + 2, shown.DistanceMarker.end(), record.DistanceMarker[1]);
+    AddParamLines(lines, shown, VNAFields);
 
     for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
         std::string& line = lines.BeginLine();
@@ -186,9 +176,9 @@ void VNAParams(Control& control)
 void FillVNACurve(Control& control)
 {
     const VNARecord& record = control.VNA;
+    FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
     control.YScaleTop = record.ScaleTop;
     control.YScaleBottom = -record.ScaleBottom;
-    FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
 }
 
 void LoadVNARecord(Control& control, const TraceText& text)
