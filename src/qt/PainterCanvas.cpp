@@ -116,7 +116,7 @@ void PainterCanvas::Text(DevicePoint topLeft, std::string_view text, const Font&
     const QtMetrics& metrics = fonts.Metrics();
     const QtMetrics::Letters& letters = metrics.LettersOf(font);
     const QRawFont& sized = fonts.Sized(font.Bold, pixels);
-    const double baseLine = topLeft.Y + metrics.Ascent() * pixels;
+    const double baseLine = topLeft.Y + metrics.Ascent(font) * pixels;
     double x = topLeft.X;
     glyphs.clear();
     places.clear();
