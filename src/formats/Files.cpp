@@ -14,6 +14,7 @@ namespace fs = std::filesystem;
 namespace {
 
 struct FileCloser {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): this is the owner letting go
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;

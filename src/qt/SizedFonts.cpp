@@ -16,9 +16,9 @@ const QRawFont& SizedFonts::Sized(bool bold, double pixels)
     constexpr std::size_t most = 16;
     if (entries.size() == most)
         entries.clear();
-    Entry& entry = entries.emplace_back(Entry{bold, pixels, QRawFont::fromFont(ScreenFont(bold))});
-    entry.Sized.setPixelSize(pixels);
-    return entry.Sized;
+    entries.push_back({bold, pixels, QRawFont::fromFont(ScreenFont(bold))});
+    entries.back().Sized.setPixelSize(pixels);
+    return entries.back().Sized;
 }
 
 } // namespace Traces
