@@ -9,7 +9,6 @@
 #include "qt/PainterCanvas.h"
 #include "qt/QtPictures.h"
 
-#include <QGuiApplication>
 #include <QImage>
 
 #include <chrono>
@@ -67,7 +66,7 @@ long PeakMemory()
 }
 
 /// From a raw trace to a PNG file.
-void WriteOurs(Plot& plot, QtPictures& pictures, const Bytes& trace, const fs::path& file)
+void WriteOurs(Plot& plot, PictureBackEnd& pictures, const Bytes& trace, const fs::path& file)
 {
     plot.ShowTrace(trace);
     const std::string png = pictures.Png(plot.Instance(), 1);
@@ -90,7 +89,7 @@ struct FilesResult {
 };
 
 /// Theirs starts with the primitives at hand, ours with the raw trace.
-FilesResult MeasureFiles(Plot& plot, QtPictures& pictures, const Bytes& sample, const fs::path& folder)
+FilesResult MeasureFiles(Plot& plot, PictureBackEnd& pictures, const Bytes& sample, const fs::path& folder)
 {
     FilesResult result{{0, 0}};
     for (int i = 0; i < Pictures; ++i) {
@@ -134,12 +133,12 @@ Times MeasureProcesses(const fs::path& folder)
         least.Ours = std::min(least.Ours, RunProcess(TRACES_PROGRAM " render " TRACES_SAMPLES_FOLDER
                                                                     "/rl_dualband_antenna_601pts.raw -o " +
                                                      png));
-        least.Theirs = std::min(least.Theirs, RunProcess(TRACES_BARE_PROGRAM " " + png + " 2>/dev/null"));
+        least.Theirs = std::min(least.Theirs, RunProcess("QT_QPA_PLATFORM=offscreen " TRACES_BARE_PROGRAM " " + png + " 2>/dev/null"));
     }
     return least;
 }
 
-bool MemoryStaysFlat(Plot& plot, QtPictures& pictures, const Bytes& sample, const fs::path& folder)
+bool MemoryStaysFlat(Plot& plot, PictureBackEnd& pictures, const Bytes& sample, const fs::path& folder)
 {
     constexpr int settled = 100;
     constexpr double tolerance = 1.01;
@@ -156,12 +155,9 @@ bool MemoryStaysFlat(Plot& plot, QtPictures& pictures, const Bytes& sample, cons
 
 } // namespace
 
-int main(int argc, char** argv)
+int main()
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    QtPictures pictures;
+    PictureBackEnd& pictures = *TracesPictureBackEnd();
     HeadlessPlatform platform(pictures.Metrics());
     Plot plot(platform);
     plot.Resize(Width, Height);

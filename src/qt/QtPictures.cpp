@@ -15,7 +15,6 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <memory>
 
 namespace Traces {
 
@@ -85,7 +84,7 @@ void DropWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const Q
         std::fputs((message + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
 }
 
-std::unique_ptr<QGuiApplication> ApplicationWithoutDisplay()
+void MakeApplicationWithoutDisplay()
 {
     // Qt keeps the arguments by reference.
     static std::array<char, 7> program{"traces"};
@@ -94,17 +93,18 @@ std::unique_ptr<QGuiApplication> ApplicationWithoutDisplay()
     static std::array<char*, 4> arguments{program.data(), option.data(), platform.data(), nullptr};
     static int count = 3;
     const QtMessageHandler usual = qInstallMessageHandler(DropWarnings);
-    auto application = std::make_unique<QGuiApplication>(count, arguments.data());
+    // The process's end takes it away: behind main's own end Qt wants no application taken down, and doing
+    // so costs as much as painting a picture. Qt keeps the pointer.
+    new QGuiApplication(count, arguments.data());
     qInstallMessageHandler(usual);
-    return application;
 }
 
 } // namespace
 
 Traces::PictureBackEnd* TracesPictureBackEnd()
 {
-    static const std::unique_ptr<QGuiApplication> own =
-        QCoreApplication::instance() == nullptr ? ApplicationWithoutDisplay() : nullptr;
+    if (QCoreApplication::instance() == nullptr)
+        MakeApplicationWithoutDisplay();
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr)
         return nullptr;
     static thread_local Traces::QtPictures pictures;

@@ -1,4 +1,7 @@
 #include "Paper.h"
+#include "control/HeadlessPlatform.h"
+#include "control/Plot.h"
+#include "support/RawBuilder.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -243,9 +246,17 @@ TEST(ApplicationDeathTest, AHostsApplicationIsUsedAndLeftAlone)
         char name[] = "host", option[] = "-platform", platform[] = "offscreen";
         char* arguments[] = {name, option, platform, nullptr};
         int count = 3;
-        const auto application = makeApplication(count, arguments);
-        const bool works = TracesPictureBackEnd() != nullptr;
-        std::exit(works == draws && QCoreApplication::instance() == application.get() ? 0 : 1);
+        auto application = makeApplication(count, arguments);
+        PictureBackEnd* const backEnd = TracesPictureBackEnd();
+        bool kept = (backEnd != nullptr) == draws && QCoreApplication::instance() == application.get();
+        if (backEnd != nullptr) {
+            HeadlessPlatform headless(backEnd->Metrics());
+            Plot plot(headless);
+            plot.ShowTrace(Testing::RawSweep(0, {1000, 500}).Bytes());
+            kept = kept && !backEnd->Png(plot.Instance(), 1).empty();
+        }
+        application.reset(); // and the fonts that were used in it go later
+        std::exit(kept ? 0 : 1);
     };
     EXPECT_EXIT(hosted([](int& n, char** a) { return std::make_unique<QGuiApplication>(n, a); }, true),
                 testing::ExitedWithCode(0), "");
