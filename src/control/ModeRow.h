@@ -1,5 +1,5 @@
 // The form of a mode's row: the functions that its family gives to the control. The rows themselves are in
-// ModeTable.h; adding a family adds rows there and changes nothing here.
+// ModeTable.cpp; adding a family adds rows there and changes nothing here.
 #pragma once
 
 #include "control/ChildControls.h"
@@ -33,8 +33,8 @@ struct ModeRow {
     /// @throws HostFault where the trace's own numbers make the curve impossible.
     void (*FillCurve)(Control& control) = nullptr;
 
-    /// Appends the mode's lines to the parameter list.
-    void (*Params)(Control& control) = nullptr;
+    /// Appends the record's lines to a parameter list.
+    void (*Params)(const Control& control, ParameterList& lines) = nullptr;
 
     /// Draws the holder from the decoded state.
     void (*View)(Control& control) = nullptr;

@@ -32,6 +32,9 @@ void AppendNumberText(std::string& text, float value);
 /// of data point lines.
 std::string SignedNumberText(std::int32_t value);
 
+/// Appends SignedNumberText(value) to text without making a string of its own.
+void AppendSignedNumberText(std::string& text, std::int32_t value);
+
 /// The number that a text begins with, 0 when there is none; never fails. Blanks, tabs and line feeds
 /// between characters are skipped; reading stops at the first other character. An exponent counts when
 /// digits follow its letter (E or D). "&h" and "&o" in front, without a sign, read the rest as

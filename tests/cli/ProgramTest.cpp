@@ -91,8 +91,6 @@ TEST_F(Program, NamesEachBadFileOnceAndDoesTheOthers)
         {"huge.raw", std::string(40000, '\1'), "isn't a trace: 40000 bytes are more than one has"},
         {"long.raw", std::string(31000, '\1'), "mode that isn't supported, 87 (Spectro Mode)"},
         {"mode.raw", ThreePointSweep(200), "mode that isn't supported, 200 (Unknown(C8))"},
-        {"one.raw", Traces::Testing::RawSweep(0, {7}).AsText(), "one point"},
-        {"none.raw", Traces::Testing::RawSweep(0, {}).AsText(), "at least one point"},
         {"spoilt.vna", spoilt, "Failed to open trace file.  Checksum failed."},
         {"cut.vna", text.substr(0, text.size() / 2), "Checksum failed."},
         {"bare.vna", text.substr(text.find('\n') + 1), "has no checksum"},
@@ -109,6 +107,26 @@ TEST_F(Program, NamesEachBadFileOnceAndDoesTheOthers)
     }
     for (const std::string& name : {Path("missing"), folder.string(), std::string("/dev/zero")})
         EXPECT_EQ(RunCli({"info", name}).Status, 1) << name;
+}
+
+TEST_F(Program, ATraceWithoutACurveStillHasItsRecord)
+{
+    const struct {
+        std::string name, content, problem;
+    } cases[] = {
+        {"one.raw", Traces::Testing::RawSweep(0, {7}).AsText(), "one data point has no frequency step"},
+        {"none.raw", Traces::Testing::RawSweep(0, {}).AsText(), "0 data points make no curve"},
+    };
+    for (const auto& c : cases) {
+        const std::string raw = Put(c.name, c.content);
+        EXPECT_NE(RunCli({"info", raw}).Out.find("Start Frequency:\t824"), std::string::npos) << c.name;
+        EXPECT_EQ(RunCli({"convert", raw, Path("saved.vna")}).Status, 0) << c.name;
+        for (const auto& result :
+             {RunCli({"render", raw, "-o", Path("a.svg")}), RunCli({"convert", raw, Path("a.csv")})}) {
+            EXPECT_EQ(result.Status, 1) << c.name;
+            EXPECT_NE(result.Err.find(c.problem), std::string::npos) << result.Err;
+        }
+    }
 }
 
 TEST_F(Program, TellsTheFormByTheContentWhateverTheNameAndThePath)

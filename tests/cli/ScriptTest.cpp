@@ -94,17 +94,16 @@ TEST_F(ScriptCalls, SaveUnderTheNameThatTheNextDialogAnswers)
     const std::string second = Path("second.vna");
     Expect({
         {"ShowTrace " + raw, R"({"call":"ShowTrace","result":-1})"},
-        {R"(SaveTrace "")", R"({"call":"SaveTrace","result":0,"Filename":""})"},
+        {R"(SaveTrace "")", R"({"call":"SaveTrace","result":0})"},
         {"Answer " + first, R"({"call":"Answer"})"},
         {"Answer " + Path("second"), R"({"call":"Answer"})"},
-        {"SaveTrace", R"({"call":"SaveTrace","result":-1,"Filename":")" + first + "\"}"},
-        {"SaveRawTraceB " + raw + " " + Path("raw"),
-         R"({"call":"SaveRawTraceB","result":-1,"Filename":")" + Path("raw.VNA") + "\"}"},
+        {"SaveTrace", R"({"call":"SaveTrace","result":-1})"},
+        {"SaveRawTraceB " + raw + " " + Path("raw"), R"({"call":"SaveRawTraceB","result":-1})"},
         {"LoadVNAText " + first, R"({"call":"LoadVNAText"})"},
-        {"SaveTrace " + first,
-         R"({"call":"SaveTrace","result":-1,"Filename":")" + Path("second.VNA") + "\"}"},
+        {"SaveTrace " + first, R"({"call":"SaveTrace","result":-1})"},
     });
     EXPECT_EQ(Testing::ContentOf(first), Testing::ContentOf(Path("raw.VNA")));
+    EXPECT_FALSE(Testing::ContentOf(Path("second.VNA")).empty()) << "the dialog's name counts";
 }
 
 TEST_F(ScriptCalls, TellTheMessagesOfThatCallAlone)

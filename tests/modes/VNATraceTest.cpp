@@ -60,11 +60,11 @@ TEST_F(VNATrace, MagnitudesConvertByMode)
     };
     for (const auto& c : cases) {
         const auto magnitude = ConvertMagnitude(c.mode, c.raw);
-        EXPECT_TRUE(magnitude.Converted);
-        EXPECT_NEAR(magnitude.Value, c.value, 0.0005) << "mode " << c.mode << " raw " << c.raw;
+        ASSERT_TRUE(magnitude.has_value());
+        EXPECT_NEAR(*magnitude, c.value, 0.0005) << "mode " << c.mode << " raw " << c.raw;
     }
-    EXPECT_FALSE(ConvertMagnitude(16, 10000).Converted);
-    EXPECT_FALSE(ConvertMagnitude(17, 10000).Converted);
+    EXPECT_EQ(ConvertMagnitude(16, 10000), std::nullopt);
+    EXPECT_EQ(ConvertMagnitude(17, 10000), std::nullopt);
 }
 
 TEST_F(VNATrace, ListsEveryFieldInTheOrderOfTheLayout)

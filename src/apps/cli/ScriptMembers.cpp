@@ -50,12 +50,11 @@ Json LoadText(Script& script, const ScriptValues& values)
     return NoResult();
 }
 
-/// A save's result, and the name that was used.
+/// A save's result; the name is the member's own to change.
 template <class Save>
 Json Saved(std::string filename, Save save)
 {
-    const bool saved = save(filename);
-    return {{"result", ToJson(saved)}, {"Filename", filename}};
+    return Result(save(filename));
 }
 
 std::string HexText(std::string_view bytes)

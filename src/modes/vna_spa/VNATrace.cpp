@@ -13,6 +13,33 @@
 
 namespace Traces {
 
+std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
+{
+    constexpr double lowestReturnLoss = -60;
+    constexpr double highestSWR = 65;
+    const double x = raw / VNAMagnitudeScale;
+    const double a = std::abs(x);
+    double value = 0;
+    switch (mode) {
+    case TraceMode::RLFrequency:
+        value = x == 0 ? lowestReturnLoss : std::max(20 * Log10(a), lowestReturnLoss);
+        break;
+    // The ceiling is for total reflection only: 0.99 is an SWR of 199.
+    case TraceMode::SWRFrequency: value = a < 1 ? (1 + a) / (1 - a) : highestSWR; break;
+    // One-way loss, hence 10 and not 20; and no reflection at all reads as 0 dB, since Log10(0) is 0.
+    case TraceMode::CableLossFrequency: value = std::max(10 * Log10(a), lowestReturnLoss); break;
+    case TraceMode::VNAUnnamed: {
+        constexpr double lowest = -120;
+        constexpr double highest = 100;
+        // The mode's numbers were divided twice from the start.
+        value = x == 0 ? lowest : std::clamp(20 * Log10(a / VNAMagnitudeScale), lowest, highest);
+        break;
+    }
+    default: return std::nullopt;
+    }
+    return static_cast<float>(value);
+}
+
 namespace {
 
 std::size_t PointsInRecord(const Control& control)
@@ -28,9 +55,8 @@ void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
     for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
         const int offset = VNAFirstPoint + VNAPointBytes * static_cast<int>(i);
         if (const auto raw = ReadI32(buffer, offset)) {
-            const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw);
-            if (magnitude.Converted)
-                record.PointValue[i] = magnitude.Value;
+            if (const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw))
+                record.PointValue[i] = *magnitude;
         }
         if (const auto raw = ReadI32(buffer, offset + 4))
             record.PointPhase[i] = static_cast<float>(*raw / VNAPhaseScale);
@@ -41,7 +67,7 @@ void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
 void AppendPointKey(std::string& text, std::size_t point)
 {
     text += "Data point";
-    text += SignedNumberText(static_cast<std::int32_t>(point));
+    AppendSignedNumberText(text, static_cast<std::int32_t>(point));
     text += ':';
 }
 
@@ -71,33 +97,6 @@ void LoadVNASignalStd(VNARecord& record, const TraceText& text, const std::strin
 
 } // namespace
 
-VNAMagnitude ConvertMagnitude(int mode, std::int32_t raw)
-{
-    constexpr double lowestReturnLoss = -60;
-    constexpr double highestSWR = 65;
-    const double x = raw / VNAMagnitudeScale;
-    const double a = std::abs(x);
-    double value = 0;
-    switch (mode) {
-    case TraceMode::RLFrequency:
-        value = x == 0 ? lowestReturnLoss : std::max(20 * Log10(a), lowestReturnLoss);
-        break;
-    // The ceiling is for total reflection only: 0.99 is an SWR of 199.
-    case TraceMode::SWRFrequency: value = a < 1 ? (1 + a) / (1 - a) : highestSWR; break;
-    // One-way loss, hence 10 and not 20; and no reflection at all reads as 0 dB, since Log10(0) is 0.
-    case TraceMode::CableLossFrequency: value = std::max(10 * Log10(a), lowestReturnLoss); break;
-    case TraceMode::VNAUnnamed: {
-        constexpr double lowest = -120;
-        constexpr double highest = 100;
-        // The mode's numbers were divided twice from the start.
-        value = x == 0 ? lowest : std::clamp(20 * Log10(a / VNAMagnitudeScale), lowest, highest);
-        break;
-    }
-    default: return {false, 0};
-    }
-    return {true, static_cast<float>(value)};
-}
-
 void DecodeVNARecord(Control& control, const RawBuffer& buffer)
 {
     DecodeFields(buffer, control.VNA, VNAFields);
@@ -107,19 +106,17 @@ void DecodeVNARecord(Control& control, const RawBuffer& buffer)
 void DecodeVNATrace(Control& control, const RawBuffer& buffer)
 {
     DecodeVNARecord(control, buffer);
-    VNAParams(control);
+    VNAParams(control, control.lstParameters);
     control.TraceSaved = false;
 }
 
-void VNAParams(Control& control)
+void VNAParams(const Control& control, ParameterList& lines)
 {
-    VNARecord& record = control.VNA;
-    ParameterList& lines = control.lstParameters;
+    const VNARecord& record = control.VNA;
     // The lines of distance markers 3 to 6 have always shown marker 2, and a saved file sets them all to it.
-    const auto markers = record.DistanceMarker;
-    std::fill(record.DistanceMarker.begin() + 2, record.DistanceMarker.end(), markers[1]);
-    AddParamLines(lines, record, VNAFields);
-    record.DistanceMarker = markers;
+    VNARecord shown = record;
+    std::fill(shown.DistanceMarker.begin() + 2, shown.DistanceMarker.end(), record.DistanceMarker[1]);
+    AddParamLines(lines, shown, VNAFields);
 
     for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
         std::string& line = lines.BeginLine();
@@ -135,9 +132,9 @@ void VNAParams(Control& control)
 void FillVNACurve(Control& control)
 {
     const VNARecord& record = control.VNA;
+    FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
     control.YScaleTop = record.ScaleTop;
     control.YScaleBottom = -record.ScaleBottom;
-    FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
 }
 
 void LoadVNARecord(Control& control, const TraceText& text)

@@ -2,8 +2,11 @@
 // the three upload encoders.
 #pragma once
 
+#include "formats/ParameterList.h"
 #include "formats/RawBuffer.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,14 +23,10 @@ void DecodeVNARecord(Control& control, const RawBuffer& buffer);
 
 /// The magnitude of a point in display units, from the raw linear reflection x 10,000: dB or SWR by the
 /// measurement mode. Nothing for the distance modes, whose points aren't converted.
-struct VNAMagnitude {
-    bool Converted;
-    float Value;
-};
-VNAMagnitude ConvertMagnitude(int mode, std::int32_t raw);
+std::optional<float> ConvertMagnitude(int mode, std::int32_t raw);
 
-/// Appends the record's lines and one line a point to the parameter list.
-void VNAParams(Control& control);
+/// Appends the record's lines and one line a point to a parameter list.
+void VNAParams(const Control& control, ParameterList& lines);
 
 /// Curve slot 0 from the record, frequency in MHz against the points' values, and the chart's limits.
 /// @throws HostFault Range for a point count below 1 or above the record's room, DivisionByZero for one
