@@ -126,7 +126,7 @@ char* PutNumber(char* to, T value)
     const int count = digits.Count();
     const int exponent = static_cast<int>(decimal.Exponent) + precision - 1; // of the first digit
     if (exponent < 0 && exponent >= -4) {
-        std::memcpy(to, "0.000", 5);
+        PutText(to, "0.000");
         to += 1 - exponent;
         digits.Put(to, 0);
         return to + count;

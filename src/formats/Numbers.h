@@ -61,7 +61,8 @@ template <std::integral T>
 std::optional<T> RoundTo(double value)
 {
     constexpr auto largest = std::numeric_limits<T>::max();
-    constexpr double beyond = 2 * static_cast<double>(largest / 2 + 1); // a power of two, so exact
+    constexpr T half = largest / 2 + 1; // a power of two, so exact
+    constexpr double beyond = 2 * static_cast<double>(half);
     constexpr auto smallest = static_cast<double>(std::numeric_limits<T>::min());
     const double rounded = std::nearbyint(value);
     if (rounded >= smallest && rounded < beyond)

@@ -13,7 +13,8 @@ std::optional<std::string> ReadChars(const RawBuffer& buffer, int offset, int co
 {
     if (offset < 1 || offset + count > std::numeric_limits<std::int16_t>::max())
         return std::nullopt;
-    if (buffer.UpperBound() < static_cast<std::size_t>(offset + count))
+    const int behind = offset + count;
+    if (buffer.UpperBound() < static_cast<std::size_t>(behind))
         return std::string();
     const std::uint8_t* at = buffer.From(static_cast<std::size_t>(offset));
     return std::string(at, at + count);

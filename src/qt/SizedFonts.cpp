@@ -22,9 +22,9 @@ const QRawFont& SizedFonts::Sized(bool isBold, double pixels)
     constexpr std::size_t most = 16;
     if (entries.size() == most)
         entries.clear();
-    Entry& entry = entries.emplace_back(Entry{isBold, pixels, isBold ? bold : regular});
-    entry.Sized.setPixelSize(pixels);
-    return entry.Sized;
+    entries.push_back({isBold, pixels, isBold ? bold : regular});
+    entries.back().Sized.setPixelSize(pixels);
+    return entries.back().Sized;
 }
 
 } // namespace Traces

@@ -195,6 +195,42 @@ TEST_F(VNATrace, LoadingKeepsWhatTheFileDoesNotGive)
     EXPECT_EQ(state.TraceSlots[0].X[2], 894.5F);
 }
 
+TEST_F(VNATrace, PointsAreFoundByTheirKeysHoweverTheirLinesStand)
+{
+    struct Case {
+        const char* what;
+        const char* lines;
+        std::vector<float> values;
+    };
+    const Case cases[] = {
+        {"as saved", "Data point 0:\t1\t5\r\nData point 1:\t2\t5\r\nData point 2:\t3\t5\r\n", {1, 2, 3}},
+        {"other order", "Data point 1:\t2\t5\r\nData point 0:\t1\t5\r\nData point 2:\t3\t5\r\n", {1, 2, 3}},
+        {"a line lost", "Data point 0:\t1\t5\r\nData point 1:\t2\t5\r\n", {1, 2, 2}},
+        {"first line lost", "Data point 1:\t2\t5\r\nData point 2:\t3\t5\r\n", {0, 2, 3}},
+        {"a key in a text in front of them",
+         "Ref Number:\tData point 1:\t9\t9\r\nData point 0:\t1\t5\r\nData point 1:\t2\t5\r\n"
+         "Data point 2:\t3\t5\r\n",
+         {1, 9, 3}},
+        {"a key in a value",
+         "Data point 0:\t1\tData point 2:\t8\t8\r\nData point 1:\t2\t5\r\nData point 2:\t3\t5\r\n",
+         {0, 2, 8}},
+        {"three fields",
+         "Data point 0:\t1\t5\r\nData point 1:\t2\t5\t6\r\nData point 2:\t3\t5\r\n",
+         {1, 0, 3}},
+        {"numbers in other forms",
+         "Data point 0:\t+1\t5\r\nData point 1:\t 2 \t5\r\nData point 2:\tinf\t5\r\n",
+         {1, 2, 0}},
+        {"no line feeds", "Data point 0:\t1\t5\rData point 1:\t2\t5\rData point 2:\t3\t5\r", {1, 2, 3}},
+        {"the end cut off", "Data point 0:\t1\t5\r\nData point 1:\t2\t5\r\nData point 2:\t3\t5", {1, 2, 3}},
+    };
+    for (const Case& c : cases) {
+        state.VNA.PointValue = {};
+        Load("DataPoints:\t3\r\n" + std::string(c.lines));
+        const auto& values = state.VNA.PointValue;
+        EXPECT_EQ(std::vector<float>(values.begin(), values.begin() + 3), c.values) << c.what;
+    }
+}
+
 TEST_F(VNATrace, ANumericStandardComesBackAsItsNumbersText)
 {
     Load("Mode:\tUnknown(07)\r\nDataPoints:\t2\r\nVNA Signal Std:\t5.0\r\n");

@@ -9,7 +9,9 @@
 #include "modes/vna_spa/VNAFields.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <system_error>
 
 namespace Traces {
 
@@ -63,20 +65,62 @@ void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
     }
 }
 
+constexpr std::string_view PointKeyStem = "Data point";
+
 /// "Data point 0:", the key of a point's line.
 void AppendPointKey(std::string& text, std::size_t point)
 {
-    text += "Data point";
+    text += PointKeyStem;
     AppendSignedNumberText(text, static_cast<std::int32_t>(point));
     text += ':';
 }
 
+/// Takes a plain number and the character behind it off the front of a text.
+bool TakeNumber(std::string_view& rest, float& number, char behind)
+{
+    const char* const end = rest.data() + rest.size();
+    const auto [stop, error] = std::from_chars(rest.data(), end, number);
+    if (error != std::errc() || stop == end || *stop != behind || !std::isfinite(number))
+        return false;
+    rest.remove_prefix(static_cast<std::size_t>(stop + 1 - rest.data()));
+    return true;
+}
+
+/// Reads the points' lines as a save writes them: one behind the other, with two plain numbers each. Stops
+/// at the first that is otherwise, and returns how many it read. Lookups would find the same, in twice the
+/// time: no key stands in front of the first line, and none hides in a line of numbers.
+std::size_t LoadSavedPoints(VNARecord& record, std::size_t points, std::string_view text)
+{
+    std::string_view rest = text.substr(std::min(text.find(PointKeyStem), text.size()));
+    std::string key;
+    for (std::size_t i = 0; i < points; ++i) {
+        key.clear();
+        AppendPointKey(key, i);
+        key += '\t';
+        if (!rest.starts_with(key))
+            return i;
+        rest.remove_prefix(key.size());
+        float value = 0;
+        float phase = 0;
+        if (!TakeNumber(rest, value, '\t') || !TakeNumber(rest, phase, '\r'))
+            return i;
+        record.PointValue[i] = value;
+        record.PointPhase[i] = phase;
+        rest.remove_prefix(rest.starts_with('\n') ? 1 : 0);
+    }
+    return points;
+}
+
 void LoadVNAPoints(Control& control, const TraceText& text)
 {
-    // A point without a line takes the fields of the point before it: they stay in `fields`.
+    const std::size_t points = PointsInRecord(control);
+    const std::size_t saved = LoadSavedPoints(control.VNA, points, text.Whole());
+    // A point without a line takes the fields of the point before it: they stay in `fields`, and so the
+    // last point that was read is looked up once more.
     LineFields fields;
     std::string key;
-    for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
+    for (std::size_t i = saved == points ? points : saved - std::min<std::size_t>(saved, 1); i < points;
+         ++i) {
         key.clear();
         AppendPointKey(key, i);
         text.ParamFields(key, fields);
