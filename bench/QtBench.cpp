@@ -13,9 +13,11 @@
 #include <QImage>
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <sys/resource.h>
 
 namespace {
 
@@ -108,6 +110,35 @@ FilesResult MeasureFiles(Plot& plot, QtPictures& pictures, const Bytes& sample, 
     return result;
 }
 
+/// Processor time of a whole process, its start and end included, in microseconds.
+double RunProcess(const std::string& command)
+{
+    const auto childrenTime = [] {
+        rusage usage{};
+        getrusage(RUSAGE_CHILDREN, &usage);
+        return static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1E6 +
+               static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec);
+    };
+    const double begin = childrenTime();
+    if (std::system(command.c_str()) != 0)
+        std::printf("failed: %s\n", command.c_str());
+    return childrenTime() - begin;
+}
+
+Times MeasureProcesses(const fs::path& folder)
+{
+    constexpr int rounds = 30;
+    const std::string png = (folder / "process.png").string();
+    Times least{1E30, 1E30};
+    for (int i = 0; i < rounds; ++i) {
+        least.Ours = std::min(least.Ours, RunProcess(TRACES_PROGRAM " render " TRACES_SAMPLES_FOLDER
+                                                                    "/rl_dualband_antenna_601pts.raw -o " +
+                                                     png));
+        least.Theirs = std::min(least.Theirs, RunProcess(TRACES_BARE_PROGRAM " " + png + " 2>/dev/null"));
+    }
+    return least;
+}
+
 bool MemoryStaysFlat(Plot& plot, QtPictures& pictures, const Bytes& sample, const fs::path& folder)
 {
     constexpr int settled = 100;
@@ -149,6 +180,7 @@ int main(int argc, char** argv)
     report.Add("raw trace to PNG file / QPainter and QImage::save", files.Microseconds, 0.4);
     std::printf("%d files: ours %ju bytes, theirs %ju bytes\n", Pictures, files.Ours, files.Theirs);
     kept = kept && files.Ours <= files.Theirs;
+    report.Add("process: traces render x.raw -o x.png / bare QPainter", MeasureProcesses(folder), 1);
     fs::remove_all(folder);
     return kept ? report.ExitStatus() : 1;
 }

@@ -30,6 +30,18 @@ QPointF DrawnPoint(DevicePoint point)
     return {OnDevice(point.X), OnDevice(point.Y)};
 }
 
+/// Lengthens a line along pixel centres to the edges of its first and last pixel, which a pen with flat caps
+/// would else leave out. Other caps would lengthen each dash.
+void CoverEndPixels(std::vector<QPointF>& line)
+{
+    QPointF way = line.back() - line.front();
+    if (way.isNull())
+        way = {1, 0}; // a line of one pixel
+    const QPointF half((way.x() > 0) - (way.x() < 0), (way.y() > 0) - (way.y() < 0));
+    line.front() -= half / 2;
+    line.back() += half / 2;
+}
+
 /// The pixels whose centres lie in a rectangle: neighbours share no pixel and leave none out.
 QRect PixelsOf(const DeviceRect& rect)
 {
@@ -93,6 +105,8 @@ void PainterCanvas::Polyline(std::span<const DevicePoint> points, const Pen& pen
     painter.setRenderHint(QPainter::Antialiasing, !crisp);
     places.resize(points.size());
     std::ranges::transform(points, places.begin(), DrawnPoint);
+    if (crisp)
+        CoverEndPixels(places);
     painter.drawPolyline(places.data(), static_cast<int>(places.size()));
 }
 
@@ -116,7 +130,7 @@ void PainterCanvas::Text(DevicePoint topLeft, std::string_view text, const Font&
     const QtMetrics& metrics = fonts.Metrics();
     const QtMetrics::Letters& letters = metrics.LettersOf(font);
     const QRawFont& sized = fonts.Sized(font.Bold, pixels);
-    const double baseLine = topLeft.Y + metrics.Ascent() * pixels;
+    const double baseLine = topLeft.Y + metrics.Ascent(font) * pixels;
     double x = topLeft.X;
     glyphs.clear();
     places.clear();

@@ -12,16 +12,24 @@ namespace {
 
 constexpr std::string_view Symbol = "Symbol";
 
-std::size_t TableOf(const Font& font)
-{
-    return (font.Bold ? 1U : 0U) + (font.Name == Symbol ? 2U : 0U);
-}
-
 /// The one character that a code is shown as; a blank for those of Windows-1252's open places.
 QChar ShownAs(char code, std::string_view fontName)
 {
     const QString shown = QString::fromStdString(ScreenText({&code, 1}, fontName));
     return shown.front().category() == QChar::Other_Control ? QChar(u' ') : shown.front();
+}
+
+QtMetrics::Letters LettersIn(const QRawFont& face, std::string_view fontName)
+{
+    QtMetrics::Letters letters{};
+    QString shown;
+    for (std::size_t code = 0; code < letters.size(); ++code)
+        shown += ShownAs(static_cast<char>(code), fontName);
+    const auto glyphs = face.glyphIndexesForString(shown);
+    const auto advances = face.advancesForGlyphIndexes(glyphs, QRawFont::UseDesignMetrics);
+    for (qsizetype code = 0; code < advances.size(); ++code)
+        letters[static_cast<std::size_t>(code)] = {glyphs[code], advances[code].x() / face.pixelSize()};
+    return letters;
 }
 
 } // namespace
@@ -38,46 +46,45 @@ QFont ScreenFont(bool bold)
     return font;
 }
 
-QtMetrics::QtMetrics()
+const QtMetrics::Face& QtMetrics::FaceOf(const Font& font) const
 {
-    for (const bool bold : {false, true}) {
-        QRawFont face = QRawFont::fromFont(ScreenFont(bold));
+    Face& face = faces[font.Bold ? 1 : 0];
+    std::call_once(face.Once, [&] {
+        QRawFont raw = QRawFont::fromFont(ScreenFont(font.Bold));
         // In units of the design, widths are whole numbers.
-        face.setPixelSize(face.unitsPerEm());
-        const double size = face.pixelSize();
-        // Bold letters take the same room above and below the base line.
-        ascent = face.ascent() / size;
-        descent = face.descent() / size;
-        for (const std::string_view name : {std::string_view(), Symbol}) {
-            QString shown;
-            for (std::size_t code = 0; code < std::tuple_size_v<Letters>; ++code)
-                shown += ShownAs(static_cast<char>(code), name);
-            const auto glyphs = face.glyphIndexesForString(shown);
-            const auto advances = face.advancesForGlyphIndexes(glyphs, QRawFont::UseDesignMetrics);
-            Letters& table = letters[TableOf({std::string(name), 1, bold, false})];
-            for (qsizetype code = 0; code < advances.size(); ++code)
-                table[static_cast<std::size_t>(code)] = {glyphs[code], advances[code].x() / size};
-        }
-    }
+        raw.setPixelSize(raw.unitsPerEm());
+        face.Ascent = raw.ascent() / raw.pixelSize();
+        face.Descent = raw.descent() / raw.pixelSize();
+        face.Latin = LettersIn(raw, {});
+        face.Greek = LettersIn(raw, Symbol);
+    });
+    return face;
 }
 
 const QtMetrics::Letters& QtMetrics::LettersOf(const Font& font) const
 {
-    return letters[TableOf(font)];
+    const Face& face = FaceOf(font);
+    return font.Name == Symbol ? face.Greek : face.Latin;
+}
+
+double QtMetrics::Ascent(const Font& font) const
+{
+    return FaceOf(font).Ascent;
 }
 
 double QtMetrics::TextWidth(std::string_view text, const Font& font) const
 {
-    const Letters& table = LettersOf(font);
+    const Letters& letters = LettersOf(font);
     double sum = 0;
     for (const char code : text)
-        sum += table[static_cast<unsigned char>(code)].Advance;
+        sum += letters[static_cast<unsigned char>(code)].Advance;
     return sum * static_cast<double>(font.Size);
 }
 
 double QtMetrics::TextHeight(const Font& font) const
 {
-    return (ascent + descent) * static_cast<double>(font.Size);
+    const Face& face = FaceOf(font);
+    return (face.Ascent + face.Descent) * static_cast<double>(font.Size);
 }
 
 } // namespace Traces

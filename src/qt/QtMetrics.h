@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <mutex>
 
 class QFont;
 
@@ -17,11 +18,9 @@ struct Letter {
     double Advance; ///< in font sizes
 };
 
-/// Made while a QGuiApplication exists; needs none afterwards.
+/// Needs a QGuiApplication. May be asked by several threads at once.
 class QtMetrics final : public TextMetrics {
 public:
-    QtMetrics();
-
     /// Letters aren't kerned: a text is as wide as they are together.
     double TextWidth(std::string_view text, const Font& font) const override;
     double TextHeight(const Font& font) const override;
@@ -32,11 +31,20 @@ public:
     const Letters& LettersOf(const Font& font) const;
 
     /// From a text's top to its base line, in font sizes.
-    double Ascent() const { return ascent; }
+    double Ascent(const Font& font) const;
 
 private:
-    double ascent = 0, descent = 0;
-    std::array<Letters, 4> letters{}; ///< regular, bold, and both of the Greek ones
+    /// A weight of the family.
+    struct Face {
+        std::once_flag Once;
+        double Ascent = 0, Descent = 0;
+        Letters Latin{}, Greek{};
+    };
+
+    /// Opens a font's file when the first text is measured in it: most pictures have no bold text.
+    const Face& FaceOf(const Font& font) const;
+
+    mutable std::array<Face, 2> faces; ///< regular and bold
 };
 
 /// The font that draws all texts of a weight, at some size.

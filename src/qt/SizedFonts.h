@@ -14,7 +14,7 @@ namespace Traces {
 class SizedFonts {
 public:
     /// The metrics outlive it.
-    explicit SizedFonts(const QtMetrics& metrics);
+    explicit SizedFonts(const QtMetrics& textMetrics) : metrics(textMetrics) {}
 
     const QtMetrics& Metrics() const { return metrics; }
 
@@ -30,7 +30,6 @@ private:
     };
 
     const QtMetrics& metrics;
-    QRawFont regular, bold;
     std::vector<Entry> entries;
 };
 

@@ -159,7 +159,11 @@ TEST_F(Pictures, APdfIsOnePageWithRealText)
                         "?-Tower"),
               std::string::npos)
         << text;
-    EXPECT_NE(ReadWholeFile(name + ".info").value_or("").find("Pages:           1"), std::string::npos);
+    const std::string info = ReadWholeFile(name + ".info").value_or("");
+    EXPECT_NE(info.find("Pages:           1\n"), std::string::npos) << info;
+    EXPECT_NE(info.find("413 x 360 pts"), std::string::npos) << info << "550 x 480 pixels at 96 dpi";
+    EXPECT_NE(pdf.find("/FontFile2"), std::string::npos) << "the font comes with it";
+    EXPECT_EQ(pdf.find("/Subtype /Image"), std::string::npos) << "lines, not pixels";
 }
 
 } // namespace
