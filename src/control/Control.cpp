@@ -1,6 +1,8 @@
 #include "control/Control.h"
 
+#include "control/Properties.h"
 #include "formats/HostFault.h"
+#include "formats/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +12,7 @@ namespace Traces {
 namespace {
 
 constexpr Colour PaleYellow = 0xC0FFFF;
-constexpr Colour DefaultBackColor = 0x808080;
+constexpr Colour Grey = 0x808080;
 
 /// A curve that a host sees when it makes a view current before any trace.
 void FillDemonstrationCurve(Control& control)
@@ -28,18 +30,11 @@ void SetColours(Control& control)
 {
     for (ChartSurface* holder : {&control.CDMAHolder, &control.EvDOHolder, &control.GPSiDENHolder})
         holder->BackColor = PaleYellow;
-    control.idenHolder.BackColor = DefaultBackColor;
+    control.idenHolder.BackColor = Grey;
     for (ChartSurface* box : control.ChartBoxes())
         box->BackColor = Black;
     for (ChartSurface* box : {&control.ErrorsBox, &control.idenbox1, &control.idenbox2, &control.idenbox3})
         box->BackColor = Black;
-    // The stored background property, as a new control has it.
-    control.Surface.BackColor = DefaultBackColor;
-    for (ChartSurface* holder :
-         {&control.VNAHolder, &control.SPAHolder, &control.PMHolder, &control.GPSiDENHolder,
-          &control.ZephraHolder, &control.CDMAHolder, &control.EvDOHolder, &control.CSHolder,
-          &control.E1T1Holder, &control.GSMHolder, &control.ParamBox, &control.SpectroHolder})
-        holder->BackColor = DefaultBackColor;
 }
 
 void Initialize(Control& control)
@@ -77,6 +72,7 @@ Control::Control(Traces::Platform& platform, const Traces::Families& families)
     TwipsPerPixelY = platform.TwipsPerPixelY();
     Metrics = &platform.Metrics();
     Initialize(*this);
+    LoadProperties(*this, {});
     constexpr int designWidth = 550;
     constexpr int designHeight = 480;
     Resize(*this, designWidth, designHeight);
@@ -117,6 +113,13 @@ void Clear(Control& control)
         box->Erase();
     for (std::size_t slot = 0; slot < LiveSlots; ++slot)
         control.TraceSlots[slot].Length = 0;
+}
+
+void SetTraceName(Control& control, std::string_view name)
+{
+    control.TraceName = TrimNuls(name);
+    control.Header.RefNumber = control.TraceName;
+    RedrawTrace(control);
 }
 
 void RedrawTrace(Control& control)

@@ -6,6 +6,7 @@
 #include "formats/RawBuffer.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,6 +14,14 @@
 namespace Traces {
 
 struct Control;
+
+/// Where a trace was taken, as the records hold it: whole degrees x 1,000,000 plus minutes x 10,000, the sign
+/// being the hemisphere; metres. -1, -1 is no position.
+struct GpsFix {
+    std::int32_t Latitude = -1, Longitude = -1;
+    std::int16_t Altitude = -1;
+    std::optional<std::string> UTCTime; ///< of the modes that have one
+};
 
 /// What a measurement mode does. A null function means that the mode has no such route.
 struct ModeRow {
@@ -38,6 +47,9 @@ struct ModeRow {
     /// @throws HostFault for a value or a position that the frame can't hold.
     std::string (*EncodeRecord)(const Control& control);
     std::string (*EncodeRaw)(std::string_view file);
+
+    /// The position in the family's record.
+    GpsFix (*Position)(const Control& control);
 };
 
 /// What an extension of text trace files stands for.

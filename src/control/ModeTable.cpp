@@ -12,14 +12,14 @@ constexpr auto VNAHolder = &ChildControls::VNAHolder;
 
 // clang-format off
 const ModeRow Modes[] = {
-    // mode                          holder     decode          curve         params     view          encoders: record, raw
-    {TraceMode::RLFrequency,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
-    {TraceMode::SWRFrequency,       VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
-    {TraceMode::CableLossFrequency, VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
-    {TraceMode::RLDistance,         VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
-    {TraceMode::SWRDistance,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw},
+    // mode                          holder     decode          curve         params     view          encoders: record, raw           position
+    {TraceMode::RLFrequency,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
+    {TraceMode::SWRFrequency,       VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
+    {TraceMode::CableLossFrequency, VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
+    {TraceMode::RLDistance,         VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
+    {TraceMode::SWRDistance,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
     // Comes from text files alone: no raw buffer of this mode is decoded, saved or sent.
-    {TraceMode::VNAUnnamed,         VNAHolder, nullptr,        nullptr,      VNAParams, DrawVNATrace, nullptr,         nullptr},
+    {TraceMode::VNAUnnamed,         VNAHolder, nullptr,        nullptr,      VNAParams, DrawVNATrace, nullptr,         nullptr,      VNAPosition},
 };
 
 const FileKind Files[] = {

@@ -135,6 +135,11 @@ void FillVNACurve(Control& control)
     FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
 }
 
+GpsFix VNAPosition(const Control& control)
+{
+    return {control.VNA.GpsLatitude, control.VNA.GpsLongitude, control.VNA.GpsAltitude, std::nullopt};
+}
+
 void LoadVNAText(Control& control, std::string_view text, const std::string& path)
 {
     const auto traceText = BeginTextLoad(control, text, path);

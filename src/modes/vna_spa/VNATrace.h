@@ -2,6 +2,7 @@
 // the three upload encoders.
 #pragma once
 
+#include "control/ModeRow.h"
 #include "formats/RawBuffer.h"
 
 #include <string>
@@ -32,6 +33,8 @@ void FillVNACurve(Control& control);
 
 /// Loads the text of a trace file; shows the checksum message and changes nothing when it doesn't verify.
 void LoadVNAText(Control& control, std::string_view text, const std::string& path);
+
+GpsFix VNAPosition(const Control& control);
 
 /// Frame from the record on show. It carries dB or SWR where the raw trace carries the reflection.
 std::string EncodeVNARecord(const Control& control);
