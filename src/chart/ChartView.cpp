@@ -1,8 +1,10 @@
 #include "chart/ChartView.h"
 
 #include "control/Control.h"
+#include "formats/HostFault.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Traces {
 
@@ -10,14 +12,20 @@ namespace {
 
 constexpr int Divisions = 10;
 
-/// The places of grid lines from one end to the other. Rounding decides whether the last one is drawn.
+/// The places of grid lines from one end to the other, upwards or downwards. Rounding decides whether the
+/// last one is drawn.
 template <class Draw>
 void ForEachDivision(float from, float to, Draw draw)
 {
     const float step = (to - from) / Divisions;
     float place = from;
-    for (int line = 0; line <= Divisions && place <= to; ++line, place += step)
+    for (int line = 0; line <= Divisions && (from < to ? place <= to : place >= to); ++line, place += step)
         draw(place);
+}
+
+bool IsDrawable(const TraceSlot& slot, std::size_t point)
+{
+    return std::isfinite(slot.X[point]) && std::isfinite(slot.Y[point]);
 }
 
 Colour MarkerColour(const Control& control, const MarkerSet& markers, int marker)
@@ -61,8 +69,11 @@ void DrawCurves(const Control& control, ChartSurface& box)
     box.DrawStyle = LineStyle::Solid;
     for (std::size_t t = 0; t < LiveSlots; ++t) {
         const TraceSlot& slot = control.TraceSlots[t];
-        for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i)
+        for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i) {
+            if (!IsDrawable(slot, i - 1) || !IsDrawable(slot, i))
+                throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
             box.Line(slot.X[i - 1], slot.Y[i - 1], slot.X[i], slot.Y[i], control.TraceColors[t]);
+        }
     }
 }
 

@@ -21,6 +21,7 @@ void EndView(ChartSurface& holder, ChartSurface& box);
 void ScaleBox(ChartSurface& box, const ChartWindow& window);
 
 /// Slots 0 to 5, each in its colour. What lies outside of the box falls off the surface.
+/// @throws HostFault Overflow at a point that isn't finite.
 void DrawCurves(const Control& control, ChartSurface& box);
 
 /// Ten dotted divisions each way, whatever the range.

@@ -18,6 +18,14 @@ float StepUnits(float whole)
     return whole >= 1 && whole <= 11 ? units[static_cast<int>(whole)] : 1;
 }
 
+void Extend(float value, float& smallest, float& largest)
+{
+    if (value < smallest)
+        smallest = value;
+    if (value > largest)
+        largest = value;
+}
+
 void CheckFinite(const ChartWindow& window)
 {
     if (!std::isfinite(window.Xmax - window.Xmin) || !std::isfinite(window.Ymax - window.Ymin))
@@ -32,10 +40,13 @@ bool TraceExtent(const TraceSlot& slot, ChartWindow& window)
         window = {};
         return false;
     }
-    const auto used = std::clamp<std::ptrdiff_t>(slot.Length, 1, static_cast<std::ptrdiff_t>(slot.X.size()));
-    const auto [xmin, xmax] = std::minmax_element(slot.X.begin(), slot.X.begin() + used);
-    const auto [ymin, ymax] = std::minmax_element(slot.Y.begin(), slot.Y.begin() + used);
-    window = {*xmin, *xmax, *ymin, *ymax};
+    const auto used = std::min(slot.X.size(), static_cast<std::size_t>(std::max<int>(slot.Length, 1)));
+    window = {slot.X[0], slot.X[0], slot.Y[0], slot.Y[0]};
+    // By comparisons of our own: a host's curve can hold what is no number and has no order.
+    for (std::size_t i = 1; i < used; ++i) {
+        Extend(slot.X[i], window.Xmin, window.Xmax);
+        Extend(slot.Y[i], window.Ymin, window.Ymax);
+    }
     return window.Ymax > window.Ymin && window.Xmax > window.Xmin;
 }
 

@@ -113,6 +113,7 @@ void Clear(Control& control)
         box->Erase();
     for (std::size_t slot = 0; slot < LiveSlots; ++slot)
         control.TraceSlots[slot].Length = 0;
+    control.Platform.Repaint();
 }
 
 void SetTraceName(Control& control, std::string_view name)
@@ -127,12 +128,22 @@ void RedrawTrace(Control& control)
     for (ChartSurface* holder : control.Holders())
         holder->Visible = false;
     const ModeRow* row = CurrentRow(control);
-    if (row == nullptr || row->View == nullptr)
-        return;
-    if (row->Holder != nullptr)
-        (control.*row->Holder).Visible = true;
-    row->View(control);
+    if (row != nullptr && row->View != nullptr) {
+        if (row->Holder != nullptr)
+            (control.*row->Holder).Visible = true;
+        row->View(control);
+    }
     control.Platform.Repaint();
+}
+
+bool TryRedrawTrace(Control& control)
+{
+    try {
+        RedrawTrace(control);
+        return true;
+    } catch (const HostFault&) {
+        return false;
+    }
 }
 
 } // namespace Traces

@@ -80,6 +80,10 @@ void SetTraceName(Control& control, std::string_view name);
 /// The one way to the screen: shows the holder of CurrentMode, hides the others, draws the view.
 void RedrawTrace(Control& control);
 
+/// The same where no fault may reach the host. False when the view stopped at one: the picture stays as far
+/// as it got.
+bool TryRedrawTrace(Control& control);
+
 /// Size logic for a size in device pixels, 1 at least: user system, font scale, layout of all child
 /// controls, redraw.
 void Resize(Control& control, int width, int height);

@@ -106,7 +106,8 @@ void Resize(Control& control, int width, int height)
         std::min(control.Surface.Width / size.Width, control.Surface.Height / size.Height);
     LayOut(control);
     DrawFrame(control);
-    RedrawTrace(control);
+    // A window system that resizes the control has no use for its trace's faults.
+    TryRedrawTrace(control);
 }
 
 } // namespace Traces

@@ -81,7 +81,8 @@ void EndTextLoad(Control& control)
 {
     control.CurrentMode = control.Header.Mode;
     control.TraceSaved = false;
-    RedrawTrace(control);
+    // A loader reports nothing but the checksum.
+    TryRedrawTrace(control);
 }
 
 } // namespace Traces

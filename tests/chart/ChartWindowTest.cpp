@@ -149,6 +149,19 @@ TEST_F(ChartWindows, TheGridHasTenDivisionsEvenWhereFloatsAreCoarse)
     }
 }
 
+TEST_F(ChartWindows, TheGridHasTenDivisionsUnderReversedLimitsToo)
+{
+    ChartSurface& box = control.VNABox;
+    box.AutoRedraw = true;
+    Curve({100, 200}, {-110, -110});
+    control.YScaleTop = -120;
+    control.YScaleBottom = -100;
+    ASSERT_TRUE(DrawChart(control, box, control.VNAMarkers));
+    ASSERT_EQ(box.Picture().size(), 2U + 11U + 11U);
+    const auto& last = std::get<LineCommand>(box.Picture().back());
+    EXPECT_EQ(last.From.Y, -120) << "the last line is the box's top";
+}
+
 TEST_F(ChartWindows, MarkersAreClampedForGoodAndDrawnWhereTheyStand)
 {
     ChartSurface& box = control.VNABox;

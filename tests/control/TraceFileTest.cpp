@@ -8,6 +8,7 @@
 #include "formats/Files.h"
 #include "formats/HostFault.h"
 #include "support/RawBuilder.h"
+#include "support/TraceFiles.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -36,9 +37,9 @@ private:
 class TraceFiles : public testing::Test {
 protected:
     TraceFiles() { fs::create_directories(folder / "tmp"); }
-    ~TraceFiles() override { fs::remove_all(folder); }
 
-    fs::path folder = fs::temp_directory_path() / "traces-files-test";
+    Testing::TemporaryFolder own;
+    const fs::path& folder = own.Path();
     HeadlessInFolder platform{folder / "tmp"};
     Plot plot{platform};
     Control& state = plot.Instance();

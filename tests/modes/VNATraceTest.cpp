@@ -3,12 +3,11 @@
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
 #include "control/Plot.h"
-#include "formats/Checksum.h"
 #include "formats/Files.h"
 #include "formats/HostFault.h"
 #include "support/RawBuilder.h"
+#include "support/TraceFiles.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -16,14 +15,7 @@ namespace {
 
 using Testing::RawBuilder;
 using Testing::RawSweep;
-
-/// A trace file's text with its checksum set right.
-std::string WithChecksum(std::string lines)
-{
-    std::string text = std::string(EmptyChecksumLine) + std::move(lines);
-    const std::size_t field = FindChecksumField(text);
-    return text.replace(field, ChecksumWidth, ComputeChecksum(text, field));
-}
+using Testing::WithChecksum;
 
 class VNATrace : public testing::Test {
 protected:
@@ -160,9 +152,8 @@ TEST_F(VNATrace, ShortBuffersReadAsZeroBehindTheirEnd)
 
 TEST_F(VNATrace, SaveLoadAndSaveGiveTheSameFile)
 {
-    const auto folder = std::filesystem::temp_directory_path() / "traces-vna-test";
-    std::filesystem::create_directories(folder);
-    std::string first = (folder / "first.vna").string();
+    const Testing::TemporaryFolder folder;
+    std::string first = folder / "first.vna";
     RawBuilder raw = RawSweep(0, {1234, 0, 7777});
     raw.Number(202, 4, 4'025'017); // 7 digits survive the float that loaders go through
     ASSERT_TRUE(plot.SaveRawTraceB(raw.AsText(), first));
@@ -174,10 +165,9 @@ TEST_F(VNATrace, SaveLoadAndSaveGiveTheSameFile)
     EXPECT_EQ(plot.Parameters().size(), 8U) << "a text loader lists the header alone";
     EXPECT_EQ(state.TraceSlots[0].Length, 3);
     state.TraceSaved = true;
-    std::string second = (folder / "second.vna").string();
+    std::string second = folder / "second.vna";
     ASSERT_TRUE(plot.SaveTrace(second));
     EXPECT_EQ(ReadWholeFile(first), ReadWholeFile(second));
-    std::filesystem::remove_all(folder);
 }
 
 TEST_F(VNATrace, LoadingKeepsWhatTheFileDoesNotGive)

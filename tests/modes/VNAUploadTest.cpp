@@ -5,8 +5,8 @@
 #include "formats/HostFault.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "support/RawBuilder.h"
+#include "support/TraceFiles.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -130,10 +130,9 @@ TEST_F(VNAUpload, TheRawRouteMovesBytesUnconverted)
 
 TEST_F(VNAUpload, FilesGoByTheirExtensionAndTheRawModeByte)
 {
-    const auto folder = std::filesystem::temp_directory_path() / "traces-upload-test";
-    std::filesystem::create_directories(folder);
+    const Testing::TemporaryFolder folder;
     const auto put = [&](const char* name, const std::string& content) {
-        const std::string path = (folder / name).string();
+        std::string path = folder / name;
         EXPECT_TRUE(WriteWholeFile(path, content));
         return path;
     };
@@ -146,8 +145,7 @@ TEST_F(VNAUpload, FilesGoByTheirExtensionAndTheRawModeByte)
     EXPECT_EQ(plot.GetUpLoadTrace(put("a", lines)), "");
     EXPECT_EQ(plot.GetUpLoadTrace(put("unnamed.raw", RawSweep(7, {1, 2}).AsText())), "");
     EXPECT_EQ(plot.GetUpLoadTrace(put("empty.raw", "")).size(), 4450U) << "bytes that aren't there are zero";
-    EXPECT_EQ(FaultOf([&] { plot.GetUpLoadTrace((folder / "none.raw").string()); }), FaultKind::FileAccess);
-    std::filesystem::remove_all(folder);
+    EXPECT_EQ(FaultOf([&] { plot.GetUpLoadTrace(folder / "none.raw"); }), FaultKind::FileAccess);
 }
 
 TEST_F(VNAUpload, RecordsThatNoFrameHoldsAreFaults)

@@ -136,7 +136,8 @@ TEST_F(VNAView, TheSvgShowsTheSamePicture)
     const std::string svg = SvgPicture(state);
     EXPECT_NE(svg.find("R&amp;D &lt;1&gt;</text>"), std::string::npos);
     // The curve is one polyline in yellow: three points, the first at the chart's left edge.
-    EXPECT_NE(svg.find("<polyline points=\"4,299.32 273.65,"), std::string::npos) << svg.substr(svg.find("<polyline"), 200);
+    EXPECT_NE(svg.find("<polyline points=\"4,299.32 273.65,"), std::string::npos)
+        << svg.substr(svg.find("<polyline"), 200);
     EXPECT_NE(svg.find("stroke=\"#ffff00\""), std::string::npos);
     EXPECT_EQ(svg.find("nan"), std::string::npos);
     std::size_t groups = 0;
