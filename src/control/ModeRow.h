@@ -3,6 +3,7 @@
 #pragma once
 
 #include "control/ChildControls.h"
+#include "control/MarkerSet.h"
 #include "formats/RawBuffer.h"
 
 #include <cstdint>
@@ -14,6 +15,7 @@
 namespace Traces {
 
 struct Control;
+struct FileKind;
 
 /// Where a trace was taken, as the records hold it: whole degrees x 1,000,000 plus minutes x 10,000, the sign
 /// being the hemisphere; metres. -1, -1 is no position.
@@ -29,6 +31,9 @@ struct ModeRow {
 
     /// The holder that a redraw shows for this mode.
     ChartSurface ChildControls::*Holder;
+
+    /// The family's markers; null for a mode without markers.
+    MarkerSet Control::*Markers;
 
     /// Fills the family's record and the parameter list from a raw trace.
     void (*Decode)(Control& control, const RawBuffer& buffer);
@@ -50,6 +55,9 @@ struct ModeRow {
 
     /// The position in the family's record.
     GpsFix (*Position)(const Control& control);
+
+    /// How a text file of this mode is loaded, whatever it is called; null when there are none.
+    const FileKind* TextFile;
 };
 
 /// What an extension of text trace files stands for.

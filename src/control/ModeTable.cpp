@@ -1,5 +1,6 @@
 #include "control/ModeTable.h"
 
+#include "control/Control.h"
 #include "formats/TraceMode.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "modes/vna_spa/VNAView.h"
@@ -9,21 +10,25 @@ namespace Traces {
 namespace {
 
 constexpr auto VNAHolder = &ChildControls::VNAHolder;
+constexpr auto VNAMarkers = &Control::VNAMarkers;
+
+constexpr FileKind VNAFile = {"VNA", LoadVNAText, EncodeVNAText};
 
 // clang-format off
-const ModeRow Modes[] = {
-    // mode                          holder     decode          curve         params     view          encoders: record, raw           position
-    {TraceMode::RLFrequency,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
-    {TraceMode::SWRFrequency,       VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
-    {TraceMode::CableLossFrequency, VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
-    {TraceMode::RLDistance,         VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
-    {TraceMode::SWRDistance,        VNAHolder, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition},
+constexpr ModeRow Modes[] = {
+    // mode                          holder     markers     decode          curve         params     view          encoders: record, raw         position     text files
+    {TraceMode::RLFrequency,        VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
+    {TraceMode::SWRFrequency,       VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
+    {TraceMode::CableLossFrequency, VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
+    {TraceMode::RLDistance,         VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
+    {TraceMode::SWRDistance,        VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
     // Comes from text files alone: no raw buffer of this mode is decoded, saved or sent.
-    {TraceMode::VNAUnnamed,         VNAHolder, nullptr,        nullptr,      VNAParams, DrawVNATrace, nullptr,         nullptr,      VNAPosition},
+    {TraceMode::VNAUnnamed,         VNAHolder, VNAMarkers, nullptr,        nullptr,      VNAParams, DrawVNATrace, nullptr,         nullptr,      VNAPosition, &VNAFile},
 };
 
-const FileKind Files[] = {
-    {"VNA", LoadVNAText, EncodeVNAText},
+// By the extensions that loading by name knows.
+constexpr FileKind Files[] = {
+    VNAFile,
 };
 // clang-format on
 

@@ -77,10 +77,12 @@ void DecodeField(const RawBuffer& buffer, const RawForm& form, FieldRef field)
     const auto raw = ReadNumber(buffer, form);
     if (!raw)
         return;
-    if (form.Table)
-        *std::get<std::string*>(field) = form.Table->Text(static_cast<int>(*raw));
-    else
-        std::visit([&](auto* value) { StoreNumber(*value, *raw / form.Divisor + form.Then); }, field);
+    if (form.Table) {
+        if (const auto code = RoundTo<std::int32_t>(*raw))
+            *std::get<std::string*>(field) = form.Table->Text(*code);
+        return;
+    }
+    std::visit([&](auto* value) { StoreNumber(*value, *raw / form.Divisor + form.Then); }, field);
 }
 
 void AddParamLine(ParameterList& lines, std::string_view key, FieldView field)

@@ -9,6 +9,8 @@
 
 namespace Traces {
 
+namespace fs = std::filesystem;
+
 namespace {
 
 struct FileCloser {
@@ -29,14 +31,42 @@ bool Write(File file, std::string_view content)
     return std::fclose(file.release()) == 0;
 }
 
-/// Where a save really goes: the file behind a symbolic link, not the link.
-std::string ResolveLinks(const std::string& path)
+/// Where a save really goes: the file behind symbolic links, also one that isn't there yet. Nothing for
+/// links that lead back to themselves.
+std::optional<std::string> ResolveLinks(fs::path path)
+{
+    constexpr int mostLinks = 40;
+    std::error_code error;
+    for (int i = 0; i < mostLinks; ++i) {
+        if (!fs::is_symlink(path, error))
+            return path.string();
+        path = path.parent_path() / fs::read_symlink(path, error);
+        if (error)
+            break;
+    }
+    return std::nullopt;
+}
+
+using Finish = std::function<void(const std::string& path)>;
+
+/// Finishes the content in a temporary file and sends it on.
+bool SendFinished(const std::string& path, std::string_view content, const Finish& finish)
 {
     std::error_code error;
-    if (!std::filesystem::is_symlink(path, error))
-        return path;
-    const auto target = std::filesystem::weakly_canonical(path, error);
-    return error ? path : target.string();
+    const fs::path folder = fs::temp_directory_path(error);
+    if (error)
+        return false;
+    const auto copy = MakeNewFile((folder / "Traces").string());
+    if (!copy)
+        return false;
+    bool sent = false;
+    if (OverwriteFileBytes(*copy, 0, content)) {
+        finish(*copy);
+        const auto finished = ReadWholeFile(*copy);
+        sent = finished && WriteWholeFile(path, *finished);
+    }
+    fs::remove(*copy, error);
+    return sent;
 }
 
 } // namespace
@@ -45,7 +75,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path)
 {
     // Opening a folder succeeds on some systems; reading it must not look like an empty file.
     std::error_code error;
-    if (std::filesystem::is_directory(path, error))
+    if (fs::is_directory(path, error))
         return std::nullopt;
     const File file = Open(path, "rb");
     if (!file)
@@ -85,27 +115,24 @@ std::optional<std::string> MakeNewFile(const std::string& stem)
     return std::nullopt;
 }
 
-bool ReplaceFile(const std::string& path, std::string_view content,
-                 const std::function<void(const std::string& path)>& finish)
+bool ReplaceFile(const std::string& path, std::string_view content, const Finish& finish)
 {
-    namespace fs = std::filesystem;
     std::error_code error;
-    const std::string target = ResolveLinks(path);
-    const fs::file_status old = fs::status(target, error);
-    if (fs::exists(old) && !fs::is_regular_file(old)) {
-        if (!WriteWholeFile(target, content))
-            return false;
-        finish(target);
-        return true;
-    }
-    const auto beside = MakeNewFile(target + ".");
+    const fs::file_status old = fs::status(path, error);
+    if (fs::exists(old) && !fs::is_regular_file(old))
+        return SendFinished(path, content, finish);
+    const auto target = ResolveLinks(path);
+    // A rename asks the folder for permission, not the file: a protected one has to be asked for here.
+    if (!target || (fs::exists(old) && !Open(*target, "ab")))
+        return false;
+    const auto beside = MakeNewFile((fs::path(*target).parent_path() / "Traces").string());
     if (!beside)
         return false;
-    if (WriteWholeFile(*beside, content)) {
+    if (OverwriteFileBytes(*beside, 0, content)) {
         finish(*beside);
         if (fs::exists(old))
             fs::permissions(*beside, old.permissions(), error);
-        fs::rename(*beside, target, error);
+        fs::rename(*beside, *target, error);
         if (!error)
             return true;
     }

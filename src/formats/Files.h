@@ -22,9 +22,10 @@ bool OverwriteFileBytes(const std::string& path, std::size_t place, std::string_
 std::optional<std::string> MakeNewFile(const std::string& stem);
 
 /// Replaces a file so that at any moment either the old or the new content stands under its name: writes
-/// beside it, lets `finish` work on the written file, and renames. `finish` gets the name of the file as
-/// it stands then. A target that isn't a regular file (a pipe, a device) is written directly. False, with
-/// the old file as it was, when anything fails.
+/// in the same folder, lets `finish` work on the written file, and renames. `finish` gets the name of the
+/// file as it stands then. Links and permissions stay. What isn't a regular file (a pipe, a device) can't
+/// be replaced or worked on: it gets the finished content. False, with the old file as it was, when anything
+/// fails or the file is write-protected.
 bool ReplaceFile(const std::string& path, std::string_view content,
                  const std::function<void(const std::string& path)>& finish);
 

@@ -11,13 +11,13 @@ namespace Traces {
 
 namespace {
 
-/// The low `width` bytes of the nearest integer.
+/// The low `width` bytes, 4 at most, of the nearest integer.
 std::string LowBytes(double value, std::size_t width)
 {
-    constexpr double Limit = 9.0e18;
-    // Beyond 64 bits, and for what is no number at all, no low bytes are left to speak of.
-    const double rounded = std::nearbyint(value);
-    const auto whole = std::abs(rounded) < Limit ? static_cast<std::uint64_t>(std::llrint(rounded)) : 0;
+    constexpr double beyond32Bits = 4294967296;
+    // The remainder is exact for a number of any size; what is no number has no bytes.
+    const double low = std::isfinite(value) ? std::fmod(std::nearbyint(value), beyond32Bits) : 0;
+    const auto whole = static_cast<std::uint64_t>(static_cast<std::int64_t>(low));
     std::string bytes(width, '\0');
     for (std::size_t i = 0; i < width; ++i)
         bytes[width - 1 - i] = static_cast<char>(whole >> (8 * i) & 0xFF);

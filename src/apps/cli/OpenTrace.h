@@ -1,0 +1,61 @@
+// One trace in a control of its own, as every command but the script works on it: loaded by its content, with
+// what went wrong told on the console.
+#pragma once
+
+#include "apps/cli/Input.h"
+#include "control/HeadlessPlatform.h"
+#include "control/Plot.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Traces {
+struct TraceSlot;
+}
+
+namespace Traces::Cli {
+
+/// Leaves no temporary file behind. The control does, one each time that it verifies a checksum, and a
+/// batch of ten thousand files would fill the folder with them.
+class TidyPlatform : public HeadlessPlatform {
+public:
+    using HeadlessPlatform::HeadlessPlatform;
+    ~TidyPlatform() override;
+    TidyPlatform(const TidyPlatform&) = delete;
+    TidyPlatform& operator=(const TidyPlatform&) = delete;
+
+    std::string GetTempFileNameA(const std::string& folder, std::string_view prefix) override;
+
+private:
+    std::vector<std::string> made;
+};
+
+class OpenTrace {
+public:
+    explicit OpenTrace(const TextMetrics& metrics = BuiltInMetrics());
+
+    /// Shows a trace. A raw one takes its title from the file's name. False when the console has told why
+    /// it can't be shown.
+    bool Load(Console& console, const Input& input);
+
+    Traces::Plot& Plot() { return plot; }
+    Control& Instance() { return plot.Instance(); }
+    TidyPlatform& Platform() { return platform; }
+
+private:
+    std::string LoadRaw(const Input& input);
+    std::string LoadText(const Input& input);
+
+    TidyPlatform platform;
+    Traces::Plot plot{platform};
+};
+
+/// How many points of a curve count; its length comes from the trace and may be anything.
+std::size_t UsedPoints(const TraceSlot& slot);
+
+/// Why a raw trace that the control refused can't be shown; also for a file that is to be sent without
+/// being shown. Empty when nothing is wrong with it.
+std::string RawProblem(std::string_view content);
+
+} // namespace Traces::Cli

@@ -1,0 +1,298 @@
+#include "apps/cli/ScriptMembers.h"
+
+#include "apps/cli/DrawDump.h"
+#include "apps/cli/Input.h"
+#include "apps/cli/Script.h"
+#include "apps/cli/StateFields.h"
+#include "control/Control.h"
+#include "formats/HostFault.h"
+#include "formats/Numbers.h"
+#include "formats/Text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+namespace Traces::Cli {
+
+namespace {
+
+// What the members' rows are written with.
+
+template <class Value>
+Json Result(const Value& value)
+{
+    return {{"result", ToJson(value)}};
+}
+
+Json NoResult()
+{
+    return Json::object();
+}
+
+Json Error(std::string what)
+{
+    return {{"error", std::move(what)}};
+}
+
+std::span<const std::uint8_t> Bytes(const std::string& text)
+{
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
+template <auto Load>
+Json LoadText(Script& script, const ScriptValues& values)
+{
+    (script.Plot().*Load)(values.Text(0), {});
+    return NoResult();
+}
+
+/// A save's result, and the name that was used.
+template <class Save>
+Json Saved(std::string filename, Save save)
+{
+    const bool saved = save(filename);
+    return {{"result", ToJson(saved)}, {"Filename", filename}};
+}
+
+std::string HexText(std::string_view bytes)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text;
+    text.reserve(2 * bytes.size());
+    for (const char byte : bytes) {
+        text += digits[static_cast<unsigned char>(byte) >> 4];
+        text += digits[static_cast<unsigned char>(byte) & 0xF];
+    }
+    return text;
+}
+
+Json TextWidth(Script& script, const ScriptValues& values)
+{
+    ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
+    if (surface == nullptr)
+        return Error("there is no surface " + values.Text(0));
+    const float size = std::exchange(surface->Font.Size, values.Number(2));
+    const float width = surface->TextWidth(values.Text(1));
+    surface->Font.Size = size;
+    return Result(width);
+}
+
+Json Draw(Script& script, const ScriptValues& values)
+{
+    if (!values.Has(0))
+        return {{"result", DrawJson(script.Instance())}};
+    Json one = DrawJson(script.Instance(), values.Text(0));
+    if (one.is_null())
+        return Error("there is no surface or label " + values.Text(0));
+    return {{"result", std::move(one)}};
+}
+
+Json Slots(Script& script)
+{
+    Json list = Json::array();
+    for (std::size_t i = 0; i < LiveSlots; ++i) {
+        const TraceSlot& slot = script.Instance().TraceSlots[i];
+        list.push_back({{"Length", slot.Length}, {"X", ToJson(slot.X)}, {"Y", ToJson(slot.Y)}});
+    }
+    return {{"result", std::move(list)}};
+}
+
+/// No result in a mode without markers.
+Json Markers(Script& script)
+{
+    const ModeRow* row = CurrentRow(script.Instance());
+    if (row == nullptr || row->Markers == nullptr)
+        return NoResult();
+    const MarkerSet& set = script.Instance().*row->Markers;
+    return {{"result",
+             {{"Holder", set.Holder != nullptr ? set.Holder->Name : std::string()},
+              {"SelectedMarker", set.SelectedMarker},
+              {"DraggedMarker", set.DraggedMarker},
+              {"MarkerIndex", ToJson(set.MarkerIndex)},
+              {"MarkerX", ToJson(set.MarkerX)},
+              {"MarkerText", ToJson(set.MarkerText)},
+              {"MarkerOn", ToJson(set.MarkerOn)},
+              {"MarkerOnAlt", ToJson(set.MarkerOnAlt)}}}};
+}
+
+using Values = const ScriptValues&;
+
+/// A name that may be left out is empty.
+std::string NameOrEmpty(Values values)
+{
+    return values.Has(0) ? values.Text(0) : std::string();
+}
+
+// clang-format off
+constexpr ScriptMember Members[] = {
+    // Raw traces.
+    {"ShowTrace",       "file",      [](Script& s, Values v) { return Result(s.Plot().ShowTrace(Bytes(v.Text(0)))); }},
+    {"DisplayTrace",    "file",      [](Script& s, Values v) { return Result(s.Plot().DisplayTrace(v.Text(0))); }},
+    {"DisplayTraceB",   "file",      [](Script& s, Values v) { return Result(s.Plot().DisplayTraceB(v.Text(0))); }},
+    // Trace files.
+    {"loadTextFile",    "name",      [](Script& s, Values v) { s.Plot().loadTextFile(v.Text(0)); return NoResult(); }},
+    {"LoadVNAText",     "file",      LoadText<&Plot::LoadVNAText>},
+    {"LoadRawTrace",    "name",      [](Script& s, Values v) { return Result(s.Plot().LoadRawTrace(v.Text(0))); }},
+    {"SaveTrace",       "[name]",    [](Script& s, Values v) { return Saved(NameOrEmpty(v), [&](std::string& name) { return s.Plot().SaveTrace(name); }); }},
+    {"SaveRawTrace",    "file name", [](Script& s, Values v) { return Saved(v.Text(1), [&](std::string& name) { return s.Plot().SaveRawTrace(v.Text(0), name); }); }},
+    {"SaveRawTraceB",   "file name", [](Script& s, Values v) { return Saved(v.Text(1), [&](std::string& name) { return s.Plot().SaveRawTraceB(v.Text(0), name); }); }},
+    // Upload frames.
+    {"GetUpLoadTrace",  "[name]",    [](Script& s, Values v) { return Result(HexText(s.Plot().GetUpLoadTrace(NameOrEmpty(v)))); }},
+    {"GetUpLoadTraceB", "[name]",    [](Script& s, Values v) { return Result(HexText(s.Plot().GetUpLoadTraceB(NameOrEmpty(v)))); }},
+    // The trace on show.
+    {"TraceType",       "",          [](Script& s, Values) { return Result(s.Plot().TraceType()); }},
+    {"TraceInfo",       "",          [](Script& s, Values) { return Result(s.Plot().TraceInfo()); }},
+    {"Clear",           "",          [](Script& s, Values) { s.Plot().Clear(); return NoResult(); }},
+    {"Refresh",         "",          [](Script& s, Values) { s.Plot().Refresh(); return NoResult(); }},
+    {"RedrawTrace",     "",          [](Script& s, Values) { s.Plot().RedrawTrace(); return NoResult(); }},
+    {"Plot",            "integer numbers numbers", [](Script& s, Values v) { return Result(s.Plot().PlotCurve(v.Integer(0), v.Numbers(1), v.Numbers(2))); }},
+    {"count",           "",          [](Script& s, Values) { return Result(s.Plot().count()); }},
+    {"ConvToDBCS",      "text",      [](Script&, Values v) { return Result(Plot::ConvToDBCS(v.Text(0))); }},
+    {"Resize",          "long long", [](Script& s, Values v) { s.Plot().Resize(v.Long(0), v.Long(1)); return NoResult(); }},
+    // Looking into it.
+    {"TextWidth",       "name text number", TextWidth},
+    {"State",           "",          [](Script& s, Values) { return Json{{"result", StateJson(s.Plot())}}; }},
+    {"Params",          "",          [](Script& s, Values) { return Result(s.Plot().Parameters()); }},
+    {"Slots",           "",          [](Script& s, Values) { return Slots(s); }},
+    {"Markers",         "",          [](Script& s, Values) { return Markers(s); }},
+    {"Draw",            "[name]",    Draw},
+    // Answers to what the control will ask.
+    {"Answer",          "name",      [](Script& s, Values v) { s.Platform().Answers.push_back(v.Text(0)); return NoResult(); }},
+    {"Choose",          "name",      [](Script& s, Values v) { s.Choices.push_back(v.Text(0)); return NoResult(); }},
+};
+// clang-format on
+
+// Conversion of a line's arguments to what a member takes.
+
+std::optional<double> NumberOf(const std::string& text)
+{
+    double number = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool whole = result.ptr == text.data() + text.size() && !text.empty();
+    if (whole && result.ec == std::errc::result_out_of_range)
+        throw HostFault(FaultKind::Overflow, "no number is as large");
+    return whole && result.ec == std::errc() && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+std::optional<bool> BooleanOf(const std::string& text)
+{
+    if (text == "true" || text == "false")
+        return text == "true";
+    const auto number = NumberOf(text);
+    return number ? std::optional(*number != 0) : std::nullopt;
+}
+
+float FloatOf(double number)
+{
+    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
+        throw HostFault(FaultKind::Overflow, "the number doesn't fit a float");
+    return static_cast<float>(number);
+}
+
+template <class Integer>
+Integer IntegerOf(double number)
+{
+    const auto integer = RoundTo<Integer>(number);
+    if (!integer)
+        throw HostFault(FaultKind::Overflow, "the number doesn't fit its argument");
+    return *integer;
+}
+
+std::string FileContent(const std::string& name)
+{
+    std::string problem;
+    auto content = ReadFile(name, problem);
+    if (!content)
+        throw HostFault(FaultKind::FileAccess, name + " " + problem);
+    return std::move(*content);
+}
+
+/// Nothing when the argument isn't of the kind.
+std::optional<ScriptValues::Value> Convert(std::string_view kind, const ScriptArgument& argument)
+{
+    if ((kind == "numbers") != argument.IsList)
+        return std::nullopt;
+    if (kind == "numbers") {
+        std::vector<float> numbers;
+        std::transform(argument.Numbers.begin(), argument.Numbers.end(), std::back_inserter(numbers),
+                       FloatOf);
+        return numbers;
+    }
+    if (kind == "name")
+        return argument.Text;
+    if (kind == "text")
+        return AnsiFromUtf8(argument.Text);
+    if (kind == "file")
+        return FileContent(argument.Text);
+    if (kind == "boolean") {
+        const auto boolean = BooleanOf(argument.Text);
+        return boolean ? std::optional<ScriptValues::Value>(*boolean) : std::nullopt;
+    }
+    const auto number = NumberOf(argument.Text);
+    if (!number)
+        return std::nullopt;
+    if (kind == "integer")
+        return IntegerOf<std::int16_t>(*number);
+    if (kind == "long")
+        return IntegerOf<std::int32_t>(*number);
+    return FloatOf(*number);
+}
+
+/// The arguments as `takes` lists them. Nothing when they don't fit it.
+std::optional<ScriptValues> ConvertAll(std::string_view takes, const std::vector<ScriptArgument>& arguments)
+{
+    ScriptValues values;
+    for (const ScriptArgument& argument : arguments) {
+        std::string_view kind = takes.substr(0, takes.find(' '));
+        takes.remove_prefix(std::min(kind.size() + 1, takes.size()));
+        if (kind.starts_with('['))
+            kind = kind.substr(1, kind.size() - 2);
+        auto value = kind.empty() ? std::nullopt : Convert(kind, argument);
+        if (!value)
+            return std::nullopt;
+        values.Values.push_back(std::move(*value));
+    }
+    const bool complete = takes.empty() || takes.starts_with('[');
+    return complete ? std::optional(std::move(values)) : std::nullopt;
+}
+
+Json WrongArguments(std::string_view name, std::string_view takes)
+{
+    return Error(std::string(name) + " takes " + (takes.empty() ? "no argument" : std::string(takes)));
+}
+
+Json UseProperty(Script& script, const StateField& property, const std::vector<ScriptArgument>& arguments)
+{
+    if (arguments.empty())
+        return {{"result", property.Read(script.Plot())}};
+    const auto values = ConvertAll(property.Takes, arguments);
+    if (!values)
+        return WrongArguments(property.Name, property.Takes);
+    property.Write(script.Plot(), *values);
+    return NoResult();
+}
+
+} // namespace
+
+std::span<const ScriptMember> ScriptMembers()
+{
+    return Members;
+}
+
+Json CallMember(Script& script, const ScriptLine& line)
+{
+    if (const StateField* property = FindProperty(line.Member))
+        return UseProperty(script, *property, line.Arguments);
+    const auto* member = std::find_if(std::begin(Members), std::end(Members),
+                                      [&](const ScriptMember& each) { return each.Name == line.Member; });
+    if (member == std::end(Members))
+        return Error("unknown member");
+    const auto values = ConvertAll(member->Takes, line.Arguments);
+    return values ? member->Call(script, *values) : WrongArguments(member->Name, member->Takes);
+}
+
+} // namespace Traces::Cli

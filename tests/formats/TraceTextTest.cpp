@@ -1,0 +1,180 @@
+#include "formats/TraceText.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace Traces {
+namespace {
+
+/// The lookups by plain searches through the whole text, as the rules are told.
+struct PlainSearch {
+    std::string Text;
+
+    std::string ValueBehind(std::size_t place) const
+    {
+        const std::size_t tab = Text.find('\t', place);
+        const std::size_t begin = tab == std::string::npos ? 0 : tab + 1;
+        const std::size_t end = Text.find('\r', begin);
+        return Text.substr(begin, end == std::string::npos ? end : end - begin);
+    }
+
+    std::string ParamValue(const std::string& key) const
+    {
+        const std::size_t feed = Text.find('\n' + key);
+        return feed == std::string::npos ? "" : ValueBehind(feed);
+    }
+
+    std::vector<std::string> ParamFields(const std::string& key) const
+    {
+        const std::size_t place = Text.find(key);
+        if (place == std::string::npos)
+            return {};
+        std::vector<std::string> fields(1);
+        for (const char c : ValueBehind(place)) {
+            if (c == '\t')
+                fields.emplace_back();
+            else
+                fields.back() += c;
+        }
+        return fields;
+    }
+
+    std::string Taken(std::size_t from, std::size_t width) const
+    {
+        return from < Text.size() ? Text.substr(from, width) : std::string();
+    }
+
+    std::string ParamChars(const std::string& key, std::size_t skip, std::size_t width) const
+    {
+        const std::size_t feed = Text.find('\n' + key);
+        if (feed == std::string::npos)
+            return "";
+        const std::string taken = Taken(feed + 1 + skip, width);
+        return taken.substr(0, taken.find('\r'));
+    }
+
+    std::string ParamSpectro(const std::string& key) const
+    {
+        const std::size_t place = Text.find(key + " =");
+        return place == std::string::npos ? "" : Taken(place + 25, 22);
+    }
+};
+
+std::vector<std::string> FieldsOf(const TraceText& text, const std::string& key)
+{
+    LineFields fields;
+    if (!text.ParamFields(key, fields))
+        return {};
+    EXPECT_EQ(fields.UpperIndex, static_cast<int>(fields.Parts.size()) - 1);
+    return {fields.Parts.begin(), fields.Parts.end()};
+}
+
+std::string Letters(std::mt19937& random, std::string_view alphabet, std::size_t longest)
+{
+    std::string text(random() % (longest + 1), ' ');
+    std::generate(text.begin(), text.end(), [&] { return alphabet[random() % alphabet.size()]; });
+    return text;
+}
+
+TEST(TraceTexts, ValuesFollowTheFirstLineThatBeginsWithTheKey)
+{
+    const struct {
+        const char* Name;
+        std::string_view Text, Key, Value;
+    } cases[] = {
+        {"plain", "x\r\nDate:\t11/22/2026\r\n", "Date", "11/22/2026"},
+        {"no line end", "x\nDate:\t11/22", "Date", "11/22"},
+        {"with further tabs", "x\nA:\t1\t2\r\n", "A:", "1\t2"},
+        {"first of two", "\nA:\t1\r\nA:\t2\r\n", "A:", "1"},
+        {"not in the first line", "Date:\t1\r\nTime:\t2\r\n", "Date", ""},
+        {"not inside of a line", "\nRef Date:\t1\r\n", "Date", ""},
+        {"behind a carriage return alone", "x\rDate:\t1\r\n", "Date", ""},
+        {"absent", "\nDate:\t1\r\n", "Time", ""},
+        {"cased otherwise", "\nDATE:\t1\r\n", "Date", ""},
+        {"beginning of a longer key", "\nModel:\tM\r\nMode:\t1\r\n", "Mode", "M"},
+        {"told apart by its colon", "\nModel:\tM\r\nMode:\t1\r\n", "Mode:", "1"},
+        {"longer than the line", "\nDat", "Date", ""},
+        {"no value", "\nDate:\t\r\nTime:\t2\r\n", "Date", ""},
+        {"tab on a later line", "\nDate:\r\nTime:\t2\r\n", "Date", "2"},
+        {"no tab behind it", "first line\r\nA:\t1\r\nDate:\r\n", "Date", "first line"},
+        {"no tab and one line", "\nDate: 1", "Date", "\nDate: 1"},
+        {"empty key", "x\r\nA:\t1\r\n", "", "1"},
+        {"empty key at the end", "x\r\n", "", "x"},
+        {"empty key without a line", "x\t1", "", ""},
+        {"empty text", "", "Date", ""},
+        {"colon alone", "\na:\t1\r\n:\t2\r\n", ":", "2"},
+        {"two colons", "\na:\t1\r\na::\t2\r\n", "a::", "2"},
+        {"zero characters", std::string_view("\nA\0:\t\0\r\n", 8), std::string_view("A\0:", 3),
+         std::string_view("\0", 1)},
+    };
+    for (const auto& each : cases) {
+        EXPECT_EQ(TraceText(each.Text).ParamValue(each.Key), each.Value) << each.Name;
+        EXPECT_EQ(PlainSearch{std::string(each.Text)}.ParamValue(std::string(each.Key)), each.Value)
+            << each.Name;
+    }
+}
+
+TEST(TraceTexts, FieldsAreFoundAnywhereAndStayWhenThereAreNone)
+{
+    const TraceText text("Data point 0:\t-1.5\t180\r\nx Data point 1:\t-2\r\nData point 3:\t\t\r\n");
+    LineFields fields;
+    const auto find = [&](std::string_view key) {
+        return text.ParamFields(key, fields) ? static_cast<int>(fields.Parts.size()) : -1;
+    };
+    EXPECT_EQ(find("Data point 2:"), -1);
+    EXPECT_EQ(fields.UpperIndex, -1);
+    EXPECT_EQ(find("Data point 0:"), 2) << "in the first line";
+    EXPECT_EQ(fields.Parts[1], "180");
+    EXPECT_EQ(find("Data point 2:"), -1);
+    EXPECT_EQ(fields.UpperIndex, 1) << "those of the point before";
+    EXPECT_EQ(fields.Parts[0], "-1.5");
+    EXPECT_EQ(find("Data point 1:"), 1) << "inside of a line";
+    EXPECT_EQ(fields.UpperIndex, 0);
+    EXPECT_EQ(find("Data point 3:"), 2);
+    EXPECT_EQ(fields.Parts[0], "");
+}
+
+TEST(TraceTexts, FixedWidthsEndAtTheLine)
+{
+    const TraceText text("Lat:0123\r\nLat: N 12.5 A)x\r\nLon:\t7\r\nSweep = 3\r\n");
+    EXPECT_EQ(text.ParamChars("Lat", 5, 6), "N 12.5");
+    EXPECT_EQ(text.ParamChars("Lat", 12, 50), "A)x");
+    EXPECT_EQ(text.ParamChars("Lat", 15, 6), "") << "the line's end";
+    EXPECT_EQ(text.ParamChars("Lon", 100, 6), "") << "behind the text";
+    EXPECT_EQ(text.ParamChars("Alt", 5, 6), "");
+    const std::string line = "xSweep = 789 123456789 12345678901234567890ab\r\n";
+    EXPECT_EQ(TraceText(line).ParamSpectro("Sweep"), line.substr(26, 22));
+    EXPECT_EQ(TraceText(line).ParamSpectro("Swee"), "");
+}
+
+TEST(TraceTexts, EveryLookupFindsWhatAPlainSearchFinds)
+{
+    constexpr int texts = 4000;
+    constexpr int keysPerText = 12;
+    std::mt19937 random(7); // NOLINT(cert-msc51-cpp): the same texts at every run
+    int found = 0;
+    for (int t = 0; t < texts; ++t) {
+        const PlainSearch plain{Letters(random, t % 2 == 0 ? "ab:\t\r\n01" : "a:\n\n\t =", 60)};
+        const TraceText text(plain.Text);
+        for (int k = 0; k < keysPerText; ++k) {
+            // Every other key is a piece of the text, so that long ones are found too.
+            std::string key = Letters(random, "ab:01", 6);
+            if (k % 2 == 0 && !plain.Text.empty())
+                key = plain.Text.substr(random() % plain.Text.size(), random() % 9);
+            const std::size_t skip = random() % 12;
+            const std::size_t width = random() % 12;
+            found += !plain.ParamValue(key).empty();
+            const std::string shown = "text " + testing::PrintToString(plain.Text) + " key " +
+                                      testing::PrintToString(key) + " " + std::to_string(skip);
+            ASSERT_EQ(text.ParamValue(key), plain.ParamValue(key)) << shown;
+            ASSERT_EQ(FieldsOf(text, key), plain.ParamFields(key)) << shown;
+            ASSERT_EQ(text.ParamChars(key, skip, width), plain.ParamChars(key, skip, width)) << shown;
+            ASSERT_EQ(text.ParamSpectro(key), plain.ParamSpectro(key)) << shown;
+        }
+    }
+    EXPECT_GT(found, texts) << "most texts hold something to find";
+}
+
+} // namespace
+} // namespace Traces
