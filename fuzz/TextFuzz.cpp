@@ -6,6 +6,7 @@
 #include "control/Plot.h"
 #include "control/Upload.h"
 #include "formats/Checksum.h"
+#include "formats/Files.h"
 #include "formats/HostFault.h"
 #include "formats/TraceMode.h"
 #include "output/Svg.h"
@@ -47,7 +48,10 @@ const std::string& TemporaryFile()
 class AcceptingPlatform : public HeadlessPlatform {
 public:
     std::string GetTempPathA() override { return "/"; }
-    std::string GetTempFileNameA(const std::string&, std::string_view) override { return TemporaryFile(); }
+    std::string GetTempFileNameA(const std::string&, std::string_view) override
+    {
+        return WriteWholeFile(TemporaryFile(), "") ? TemporaryFile() : std::string();
+    }
     std::int32_t TavrixChecksumStdCall(const std::string&, std::string_view) override { return 1; }
 };
 

@@ -57,8 +57,7 @@ void EndView(ChartSurface& holder, ChartSurface& box)
 
 void ScaleBox(ChartSurface& box, const ChartWindow& window)
 {
-    constexpr double sliver = 1.005;
-    box.ScaleWidth = static_cast<float>(static_cast<double>(window.Xmax - window.Xmin) * sliver);
+    box.ScaleWidth = static_cast<float>(static_cast<double>(window.Xmax - window.Xmin) * ChartSliver);
     box.ScaleLeft = window.Xmin;
     box.ScaleHeight = -(window.Ymax - window.Ymin);
     box.ScaleTop = window.Ymax;

@@ -16,8 +16,7 @@ void BeginView(ChartSurface& holder, ChartSurface& box);
 /// Ends it: what is drawn from here on goes to the overlays.
 void EndView(ChartSurface& holder, ChartSurface& box);
 
-/// Gives the box the window as its user system, Y upwards, with a sliver at the right so that the last
-/// point isn't on the border.
+/// Gives the box the window as its user system, Y upwards.
 void ScaleBox(ChartSurface& box, const ChartWindow& window);
 
 /// Slots 0 to 5, each in its colour. What lies outside of the box falls off the surface.

@@ -5,10 +5,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace Traces {
 
 namespace {
+
+constexpr auto LargestFloat = static_cast<double>(std::numeric_limits<float>::max());
+
+/// Single precision, which ends at its largest value.
+float Narrow(double value)
+{
+    return static_cast<float>(std::clamp(value, -LargestFloat, LargestFloat));
+}
 
 /// Width of a label step for a range of `whole` units of its decade. 8 and 10 divide by two, 9 doesn't:
 /// charts have been labelled so all along.
@@ -28,7 +37,8 @@ void Extend(float value, float& smallest, float& largest)
 
 void CheckFinite(const ChartWindow& window)
 {
-    if (!std::isfinite(window.Xmax - window.Xmin) || !std::isfinite(window.Ymax - window.Ymin))
+    const double width = static_cast<double>(window.Xmax - window.Xmin) * ChartSliver;
+    if (!(std::abs(width) <= LargestFloat) || !std::isfinite(window.Ymax - window.Ymin))
         throw HostFault(FaultKind::Overflow, "the curve has values that no axis holds");
 }
 
@@ -67,13 +77,12 @@ void NiceRange(float& ymin, float& ymax, float& step, bool round)
     const double p = std::pow(10.0, decade);
     // The products count in single precision, so that an end of 0.1 is 0.1 and not a little more.
     constexpr double almostOne = 0.9999999999;
-    const double a = std::floor(static_cast<double>(static_cast<float>(p * static_cast<double>(ymin))));
-    const double b =
-        std::floor(static_cast<double>(static_cast<float>(p * static_cast<double>(ymax))) + almostOne);
+    const double a = std::floor(static_cast<double>(Narrow(p * static_cast<double>(ymin))));
+    const double b = std::floor(static_cast<double>(Narrow(p * static_cast<double>(ymax))) + almostOne);
     step = static_cast<float>(static_cast<double>(StepUnits(static_cast<float>(b - a))) / p);
     if (round) {
-        ymin = static_cast<float>(a / p);
-        ymax = static_cast<float>(b / p);
+        ymin = Narrow(a / p);
+        ymax = Narrow(b / p);
     }
 }
 

@@ -1,8 +1,6 @@
 // What is on the axes of a curve chart: the data window and the routines that choose it.
 #pragma once
 
-#include <optional>
-
 namespace Traces {
 
 struct Control;
@@ -12,6 +10,9 @@ struct TraceSlot;
 struct ChartWindow {
     float Xmin = 0, Xmax = 0, Ymin = 0, Ymax = 0;
 };
+
+/// How much wider a chart's user system is than its window, so that the last point isn't on the border.
+inline constexpr double ChartSliver = 1.005;
 
 /// The extremes of a curve. False when it is empty or flat in X or in Y; the extremes are set all the same.
 bool TraceExtent(const TraceSlot& slot, ChartWindow& window);

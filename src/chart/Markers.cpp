@@ -43,22 +43,8 @@ void SetMarkerFlag(Control& control, MarkerSet& markers, std::int16_t index, boo
 
 MarkerSet* FamilyMarkers(Control& control)
 {
-    switch (control.CurrentMode) {
-    case TraceMode::RLFrequency:
-    case TraceMode::SWRFrequency:
-    case TraceMode::CableLossFrequency:
-    case TraceMode::VNAUnnamed:
-    case TraceMode::RLDistance:
-    case TraceMode::SWRDistance: return &control.VNAMarkers;
-    case TraceMode::Spectrum: return &control.SPAMarkers;
-    case TraceMode::Spectrogram: return &control.SpectroMarkers;
-    case TraceMode::T1:
-    case TraceMode::E1: return &control.E1T1Markers;
-    case TraceMode::CDMA: return &control.CDMAMarkers;
-    case TraceMode::GSM: return &control.GSMMarkers;
-    case TraceMode::EvDO: return &control.EvDOMarkers;
-    default: return nullptr;
-    }
+    const ModeRow* row = CurrentRow(control);
+    return row != nullptr && row->Markers != nullptr ? &(control.*row->Markers) : nullptr;
 }
 
 void SetMarkerState(Control& control, std::int16_t index, bool value)
@@ -71,12 +57,12 @@ bool MarkerState(const Control& control, std::int16_t index)
 {
     if (index < 0 || index >= static_cast<std::int16_t>(MarkerCount) || control.CurrentMode > TraceMode::GSM)
         return false;
-    // Looking at the set changes nothing; the one lookup serves both kinds of control.
-    const MarkerSet* markers = FamilyMarkers(const_cast<Control&>(control));
-    if (markers == nullptr)
+    const ModeRow* row = CurrentRow(control);
+    if (row == nullptr || row->Markers == nullptr)
         return false;
+    const MarkerSet& markers = control.*row->Markers;
     const bool one = control.CurrentMode == TraceMode::Spectrogram;
-    return markers->MarkerOn[one ? 0 : static_cast<std::size_t>(index)];
+    return markers.MarkerOn[one ? 0 : static_cast<std::size_t>(index)];
 }
 
 void MarkerAtX(Control& control, MarkerSet& markers, std::size_t marker)

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace Traces {
 
@@ -23,12 +24,14 @@ void FillSweepCurve(Control& control, float start, float stop, std::span<const f
     const std::int16_t points = control.Header.DataPoints;
     SetSlotLength(control, 0, points);
     if (points == 1)
-        throw HostFault(FaultKind::DivisionByZero, "a sweep of one point has no frequency step");
+        throw HostFault(FaultKind::DivisionByZero,
+                        "one data point has no frequency step, so there is no curve");
     TraceSlot& slot = control.TraceSlots[0];
     for (std::size_t i = 0; i < slot.X.size(); ++i) {
         slot.X[i] = SweepX(start, stop, points, i);
         if (i >= values.size())
-            throw HostFault(FaultKind::Range, "the sweep has more points than its record holds");
+            throw HostFault(FaultKind::Range,
+                            std::to_string(points) + " data points are more than the record holds");
         slot.Y[i] = values[i];
     }
 }
@@ -52,15 +55,18 @@ void FillWhatFits(Control& control, float start, float stop, std::span<const flo
 
 bool PlotCurve(Control& control, std::int16_t length, std::span<const float> x, std::span<const float> y)
 {
-    const auto slot = static_cast<std::size_t>(control.SetIndex);
-    const auto points = static_cast<std::size_t>(std::max<std::int16_t>(length, 0));
-    if (length < 1 || x.size() < points || y.size() < points) {
-        control.TraceSlots[slot].Length = 0;
+    const auto index = static_cast<std::size_t>(control.SetIndex);
+    TraceSlot& slot = control.TraceSlots[index];
+    const std::size_t points = length < 1 ? 0 : static_cast<std::size_t>(length);
+    if (points > 0)
+        SetSlotLength(control, index, length);
+    // What the arrays hold is taken over before one is found too short.
+    std::copy_n(x.begin(), std::min(points, x.size()), slot.X.begin());
+    std::copy_n(y.begin(), std::min({points, x.size(), y.size()}), slot.Y.begin());
+    if (points == 0 || x.size() < points || y.size() < points) {
+        slot.Length = 0;
         return false;
     }
-    SetSlotLength(control, slot, length);
-    std::copy_n(x.begin(), points, control.TraceSlots[slot].X.begin());
-    std::copy_n(y.begin(), points, control.TraceSlots[slot].Y.begin());
     RedrawTrace(control);
     return true;
 }

@@ -11,7 +11,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour PaleYellow = 0xC0FFFF;
 constexpr Colour Grey = 0x808080;
 
 /// A curve that a host sees when it makes a view current before any trace.
@@ -22,14 +21,13 @@ void FillDemonstrationCurve(Control& control)
     TraceSlot& slot = control.TraceSlots[0];
     for (std::size_t i = 0; i < slot.X.size(); ++i) {
         slot.X[i] = static_cast<float>(i) / 3.0F;
-        slot.Y[i] = std::sin(slot.X[i]) * std::exp(-slot.X[i] / 5.0F);
+        const auto x = static_cast<double>(slot.X[i]);
+        slot.Y[i] = static_cast<float>(std::sin(x) * std::exp(-x / 5));
     }
 }
 
 void SetColours(Control& control)
 {
-    for (ChartSurface* holder : {&control.CDMAHolder, &control.EvDOHolder, &control.GPSiDENHolder})
-        holder->BackColor = PaleYellow;
     control.idenHolder.BackColor = Grey;
     for (ChartSurface* box : control.ChartBoxes())
         box->BackColor = Black;
@@ -102,7 +100,7 @@ void SetSlotLength(Control& control, std::size_t slot, std::int16_t length)
     TraceSlot& curve = control.TraceSlots[slot];
     curve.Length = length;
     if (length < 1)
-        throw HostFault(FaultKind::Range, "a curve needs at least one point");
+        throw HostFault(FaultKind::Range, std::to_string(length) + " data points make no curve");
     curve.X.resize(static_cast<std::size_t>(length));
     curve.Y.resize(static_cast<std::size_t>(length));
 }

@@ -68,7 +68,7 @@ struct Control : private Screen, public ChildControls {
 const ModeRow* CurrentRow(const Control& control);
 
 /// Gives a slot a length and sizes its arrays, keeping what fits.
-/// @throws HostFault Range for a length below 1.
+/// @throws HostFault Range for a length below 1, which the slot has then, with the arrays as they were.
 void SetSlotLength(Control& control, std::size_t slot, std::int16_t length);
 
 /// Empties the chart boxes and the live slots. Holders, their texts, records and markers stay.

@@ -1,5 +1,5 @@
 // The form of a mode's row: the functions that its family gives to the control. The rows themselves are in
-// ModeTable.h; adding a family adds rows there and changes nothing here.
+// ModeTable.cpp; adding a family adds rows there and changes nothing here.
 #pragma once
 
 #include "control/ChildControls.h"
@@ -27,37 +27,37 @@ struct GpsFix {
 
 /// What a measurement mode does. A null function means that the mode has no such route.
 struct ModeRow {
-    std::uint8_t Mode;
+    std::uint8_t Mode = 0;
 
     /// The holder that a redraw shows for this mode.
-    ChartSurface ChildControls::*Holder;
+    ChartSurface ChildControls::*Holder = nullptr;
 
     /// The family's markers; null for a mode without markers.
-    MarkerSet Control::*Markers;
+    MarkerSet Control::*Markers = nullptr;
 
     /// Fills the family's record and the parameter list from a raw trace.
-    void (*Decode)(Control& control, const RawBuffer& buffer);
+    void (*Decode)(Control& control, const RawBuffer& buffer) = nullptr;
 
     /// After Decode, for a trace that is to be shown: curve slot 0 and limits.
     /// @throws HostFault where the trace's own numbers make the curve impossible.
-    void (*FillCurve)(Control& control);
+    void (*FillCurve)(Control& control) = nullptr;
 
-    /// Appends the mode's lines to the parameter list.
-    void (*Params)(Control& control);
+    /// Appends the record's lines to a parameter list.
+    void (*Params)(const Control& control, ParameterList& lines) = nullptr;
 
     /// Draws the holder from the decoded state.
-    void (*View)(Control& control);
+    void (*View)(Control& control) = nullptr;
 
     /// Upload frames, from the record on show and from a raw file's bytes.
     /// @throws HostFault for a value or a position that the frame can't hold.
-    std::string (*EncodeRecord)(const Control& control);
-    std::string (*EncodeRaw)(std::string_view file);
+    std::string (*EncodeRecord)(const Control& control) = nullptr;
+    std::string (*EncodeRaw)(std::string_view file) = nullptr;
 
     /// The position in the family's record.
-    GpsFix (*Position)(const Control& control);
+    GpsFix (*Position)(const Control& control) = nullptr;
 
     /// How a text file of this mode is loaded, whatever it is called; null when there are none.
-    const FileKind* TextFile;
+    const FileKind* TextFile = nullptr;
 };
 
 /// What an extension of text trace files stands for.

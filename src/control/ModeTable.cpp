@@ -9,28 +9,43 @@ namespace Traces {
 
 namespace {
 
-constexpr auto VNAHolder = &ChildControls::VNAHolder;
-constexpr auto VNAMarkers = &Control::VNAMarkers;
+// Sweeps of cables and antennas.
 
 constexpr FileKind VNAFile = {"VNA", LoadVNAText, EncodeVNAText};
 
-// clang-format off
+/// A mode that only text files bring: no raw buffer of it is decoded, saved or sent.
+constexpr ModeRow SweepOfText(std::uint8_t mode)
+{
+    return {
+        .Mode = mode,
+        .Holder = &ChildControls::VNAHolder,
+        .Markers = &Control::VNAMarkers,
+        .Params = VNAParams,
+        .View = DrawVNATrace,
+        .Position = VNAPosition,
+        .TextFile = &VNAFile,
+    };
+}
+
+constexpr ModeRow Sweep(std::uint8_t mode)
+{
+    ModeRow row = SweepOfText(mode);
+    row.Decode = DecodeVNATrace;
+    row.FillCurve = FillVNACurve;
+    row.EncodeRecord = EncodeVNARecord;
+    row.EncodeRaw = EncodeVNARaw;
+    return row;
+}
+
 constexpr ModeRow Modes[] = {
-    // mode                          holder     markers     decode          curve         params     view          encoders: record, raw         position     text files
-    {TraceMode::RLFrequency,        VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
-    {TraceMode::SWRFrequency,       VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
-    {TraceMode::CableLossFrequency, VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
-    {TraceMode::RLDistance,         VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
-    {TraceMode::SWRDistance,        VNAHolder, VNAMarkers, DecodeVNATrace, FillVNACurve, VNAParams, DrawVNATrace, EncodeVNARecord, EncodeVNARaw, VNAPosition, &VNAFile},
-    // Comes from text files alone: no raw buffer of this mode is decoded, saved or sent.
-    {TraceMode::VNAUnnamed,         VNAHolder, VNAMarkers, nullptr,        nullptr,      VNAParams, DrawVNATrace, nullptr,         nullptr,      VNAPosition, &VNAFile},
+    Sweep(TraceMode::RLFrequency),      Sweep(TraceMode::SWRFrequency), Sweep(TraceMode::CableLossFrequency),
+    SweepOfText(TraceMode::VNAUnnamed), Sweep(TraceMode::RLDistance),   Sweep(TraceMode::SWRDistance),
 };
 
-// By the extensions that loading by name knows.
+/// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
     VNAFile,
 };
-// clang-format on
 
 } // namespace
 

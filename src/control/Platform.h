@@ -99,12 +99,13 @@ public:
     /// Folder for temporary files; empty when there is none.
     virtual std::string GetTempPathA();
 
-    /// Makes an empty file with a new name, beginning with the prefix, in a folder. Its path; empty when it
-    /// can't be made.
+    /// Makes an empty file with a new name, beginning with the prefix, in a folder, whose name ends in its
+    /// separator. Its path; empty when it can't be made.
     virtual std::string GetTempFileNameA(const std::string& folder, std::string_view prefix);
 
-    /// The checksum library: writes the checksum of a file over its field. The key text chooses which result
-    /// means success. Exchange it to read and write files that the instruments' own tools accept.
+    /// The checksum library: writes the checksum of a file over its field. The file is a copy, or one that
+    /// takes its own name only when it is finished. The key text chooses which result means success. Exchange
+    /// it to read and write files that the instruments' own tools accept.
     virtual std::int32_t TavrixChecksumStdCall(const std::string& path, std::string_view key);
 
     /// The seven values that unscramble a power meter's comma form; all zero reads an unscrambled one.

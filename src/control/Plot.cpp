@@ -103,7 +103,7 @@ std::string_view Plot::TraceType() const
 {
     return TraceTypeName(control->Header.Mode);
 }
-std::string Plot::TraceInfo()
+std::string Plot::TraceInfo() const
 {
     return Traces::TraceInfo(*control);
 }

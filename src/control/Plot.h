@@ -28,7 +28,8 @@ public:
     Plot& operator=(const Plot&) = delete;
 
     /// @name Raw traces
-    /// True when the trace was accepted and drawn. A refused one leaves the picture as it was.
+    /// True when the trace was accepted and drawn. One that is refused by its length leaves the picture as it
+    /// was, one of an unknown mode an empty chart; both leave their header and its lines.
     /// @throws HostFault Overflow for a text of 32768 characters or more and for a trace of more than 32767
     /// bytes; Range for an empty text; Range or DivisionByZero for a point count that the mode has no curve
     /// for.
@@ -42,7 +43,8 @@ public:
     /// @{
 
     /// Writes the trace as a text file. Opens the save dialog when Filename is empty or the trace hasn't
-    /// been saved yet. Filename holds the name used.
+    /// been saved yet. Filename holds the name used. A checksum that can't be made is told to the user, and
+    /// the file is saved without.
     bool SaveTrace(std::string& Filename);
 
     /// Decodes a raw trace and saves it as a text file without showing it.
@@ -72,7 +74,7 @@ public:
     /// @name The trace on show
     /// @{
     std::string_view TraceType() const; ///< "RL", "SWR", "SPA"; empty for modes without one
-    std::string TraceInfo();            ///< lines of key, tab, value
+    std::string TraceInfo() const;      ///< lines of key, tab, value
     void Clear();                       ///< empties the chart boxes and the live curves
     void Refresh();                     ///< asks the platform to repaint
     void RedrawTrace();                 ///< draws the view anew from the decoded state

@@ -6,7 +6,6 @@
 #include "formats/TraceMode.h"
 
 #include <limits>
-#include <utility>
 
 namespace Traces {
 
@@ -53,7 +52,7 @@ bool ShowTrace(Control& control, const RawBuffer& buffer)
     return true;
 }
 
-std::string TraceInfo(Control& control)
+std::string TraceInfo(const Control& control)
 {
     const TraceHeader& header = control.Header;
     ParameterList lines;
@@ -69,10 +68,7 @@ std::string TraceInfo(Control& control)
     const ModeRow* row = control.Families.FindMode(header.Mode);
     if (row == nullptr || row->Params == nullptr)
         return lines.Text();
-    // The mode's writer appends to the control's list, which the report must not change.
-    std::swap(lines, control.lstParameters);
-    row->Params(control);
-    std::swap(lines, control.lstParameters);
+    row->Params(control, lines);
     return lines.Text();
 }
 
@@ -83,7 +79,7 @@ void RebuildParameters(Control& control)
     // A trace of a mode without a name is saved as its header alone.
     const ModeRow* row = control.Families.FindMode(control.Header.Mode);
     if (row != nullptr && row->Params != nullptr && IsNamedMode(control.Header.Mode))
-        row->Params(control);
+        row->Params(control, control.lstParameters);
 }
 
 } // namespace Traces

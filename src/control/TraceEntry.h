@@ -1,4 +1,4 @@
-// The road of a raw trace into the control: length gate, header, decoder, curve, redraw. And what can be
+// The road of a raw trace into the control: header, length gate, decoder, curve, redraw. And what can be
 // told of the trace on show.
 #pragma once
 
@@ -23,7 +23,7 @@ bool PassesLengthGate(const Control& control, const RawBuffer& buffer);
 bool ShowTrace(Control& control, const RawBuffer& buffer);
 
 /// The trace as lines of key, tab, value, from the decoded state alone.
-std::string TraceInfo(Control& control);
+std::string TraceInfo(const Control& control);
 
 /// Builds the parameter list anew from the header and the record of the header's mode.
 void RebuildParameters(Control& control);

@@ -8,6 +8,8 @@
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 
+#include <utility>
+
 namespace Traces {
 
 namespace {
@@ -18,11 +20,14 @@ constexpr std::size_t LongestFileName = 256;
 bool WriteTraceFile(Control& control, const std::string& filename)
 {
     const std::string content = std::string(EmptyChecksumLine) + control.lstParameters.Text();
-    return ReplaceFile(filename, content, [&](const std::string& written) {
-        if (control.Platform.TavrixChecksumStdCall(written, SaveChecksumKey) != 0)
-            control.Platform.MessageBox(
-                {"File Save", "File save operation failed:  Could not create Checksum.", MessageIcon::Stop});
+    bool summed = false;
+    const bool written = ReplaceFile(filename, content, [&](const std::string& unfinished) {
+        summed = control.Platform.TavrixChecksumStdCall(unfinished, SaveChecksumKey) == 0;
     });
+    if (written && !summed)
+        control.Platform.MessageBox(
+            {"File Save", "File save operation failed:  Could not create Checksum.", MessageIcon::Stop});
+    return written;
 }
 
 /// The decoder that a save of a raw trace takes: none for the power monitor and the high accuracy power

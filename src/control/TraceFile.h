@@ -10,8 +10,8 @@ struct Control;
 
 /// Writes the trace on show as a text file. Opens the save dialog when there is no name, or when the trace
 /// hasn't been saved under one yet; the name that was used is handed back. Without a point in the name the
-/// mode's extension is appended. The old file stays whole until the new one is. False when cancelled or not
-/// written.
+/// mode's extension is appended. The old file stays whole until the new one is. A checksum that can't be made
+/// is told to the user, and the file stays without a right one. False when cancelled or not written.
 bool SaveTrace(Control& control, std::string& filename);
 
 /// Asks for a file name with the filters of a mode. False when cancelled, with an empty name.

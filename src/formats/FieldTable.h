@@ -9,11 +9,13 @@
 #include "formats/TraceText.h"
 #include "formats/UploadFrame.h"
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 namespace Traces {
@@ -31,6 +33,7 @@ template <class Record>
 struct Member {
     FieldRef (*Of)(Record& record);
     FieldView (*In)(const Record& record);
+    bool IsText; ///< the field is a text
 };
 
 namespace Detail {
@@ -64,6 +67,9 @@ struct Path {
     {
         return &From(record);
     }
+    template <class Record>
+    static constexpr bool IsText =
+        std::is_same_v<std::remove_reference_t<decltype(From(std::declval<Record&>()))>, std::string>;
 };
 
 template <class T>
@@ -80,7 +86,8 @@ struct OwnerOf<T Record::*> {
 template <auto First, auto... Rest>
 inline constexpr Member<typename Detail::OwnerOf<decltype(First)>::Type> At = {
     &Detail::Path<First, Rest...>::template Of<typename Detail::OwnerOf<decltype(First)>::Type>,
-    &Detail::Path<First, Rest...>::template In<typename Detail::OwnerOf<decltype(First)>::Type>};
+    &Detail::Path<First, Rest...>::template In<typename Detail::OwnerOf<decltype(First)>::Type>,
+    Detail::Path<First, Rest...>::template IsText<typename Detail::OwnerOf<decltype(First)>::Type>};
 
 /// How a field's raw number becomes its value: raw / Divisor + Then, or the text of Table for it.
 struct RawForm {
@@ -122,14 +129,16 @@ constexpr int WidthOf(Read reader, int charsWidth)
     return 0;
 }
 
-/// Whether a table's rows stand in raw order without sharing a byte, and no key stands twice. For
-/// static_assert; a layout that really shares bytes says so beside its table.
+/// Whether a table's rows stand in raw order without sharing a byte, no key stands twice, and characters and
+/// code tables go to texts. For static_assert; a layout that really shares bytes says so beside its table.
 template <class Record, std::size_t Count>
 constexpr bool FieldsFit(const std::array<Field<Record>, Count>& fields)
 {
     for (std::size_t i = 0; i < Count; ++i) {
         if (i > 0 &&
             fields[i].Offset < fields[i - 1].Offset + WidthOf(fields[i - 1].Reader, fields[i - 1].Width))
+            return false;
+        if ((fields[i].Table != nullptr || fields[i].Reader == Read::Chars) && !fields[i].Member.IsText)
             return false;
         for (std::size_t k = 0; k < i; ++k)
             if (fields[k].Key == fields[i].Key)

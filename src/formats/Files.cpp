@@ -14,6 +14,7 @@ namespace fs = std::filesystem;
 namespace {
 
 struct FileCloser {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): this is the owner letting go
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
@@ -82,8 +83,11 @@ std::optional<std::string> ReadWholeFile(const std::string& path)
         return std::nullopt;
     std::string content;
     std::array<char, 65536> block; // NOLINT(cppcoreguidelines-pro-type-member-init): fread fills it
-    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file.get()))
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file.get())) {
         content.append(block.data(), count);
+        if (content.size() > LargestFile)
+            return std::nullopt;
+    }
     if (std::ferror(file.get()) != 0)
         return std::nullopt;
     return content;

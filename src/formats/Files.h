@@ -9,7 +9,10 @@
 
 namespace Traces {
 
-/// A file's content, one character a byte; nothing when it can't be read.
+/// No trace is as large. A device can give bytes without an end.
+inline constexpr std::size_t LargestFile = std::size_t{64} << 20;
+
+/// A file's content, one character a byte; nothing when it can't be read or is larger than LargestFile.
 std::optional<std::string> ReadWholeFile(const std::string& path);
 
 /// Replaces or makes a file; false when any byte of it couldn't be written.

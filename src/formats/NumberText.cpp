@@ -126,7 +126,7 @@ char* PutNumber(char* to, T value)
     const int count = digits.Count();
     const int exponent = static_cast<int>(decimal.Exponent) + precision - 1; // of the first digit
     if (exponent < 0 && exponent >= -4) {
-        std::memcpy(to, "0.000", 5);
+        PutText(to, "0.000");
         to += 1 - exponent;
         digits.Put(to, 0);
         return to + count;
@@ -191,10 +191,17 @@ void AppendNumberText(std::string& text, float value)
 
 std::string SignedNumberText(std::int32_t value)
 {
-    std::string text = NumberText(value);
-    if (value >= 0)
-        text.insert(text.begin(), ' ');
+    std::string text;
+    AppendSignedNumberText(text, value);
     return text;
+}
+
+void AppendSignedNumberText(std::string& text, std::int32_t value)
+{
+    std::array<char, 12> digits{' '};
+    char* const begin = value < 0 ? digits.data() : digits.data() + 1;
+    const auto end = std::to_chars(begin, digits.data() + digits.size(), value).ptr;
+    text.append(digits.data(), end);
 }
 
 } // namespace Traces

@@ -32,6 +32,9 @@ void AppendNumberText(std::string& text, float value);
 /// of data point lines.
 std::string SignedNumberText(std::int32_t value);
 
+/// Appends SignedNumberText(value) to text without making a string of its own.
+void AppendSignedNumberText(std::string& text, std::int32_t value);
+
 /// The number that a text begins with, 0 when there is none; never fails. Blanks, tabs and line feeds
 /// between characters are skipped; reading stops at the first other character. An exponent counts when
 /// digits follow its letter (E or D). "&h" and "&o" in front, without a sign, read the rest as
@@ -58,7 +61,8 @@ template <std::integral T>
 std::optional<T> RoundTo(double value)
 {
     constexpr auto largest = std::numeric_limits<T>::max();
-    constexpr double beyond = 2 * static_cast<double>(largest / 2 + 1); // a power of two, so exact
+    constexpr T half = largest / 2 + 1; // a power of two, so exact
+    constexpr double beyond = 2 * static_cast<double>(half);
     constexpr auto smallest = static_cast<double>(std::numeric_limits<T>::min());
     const double rounded = std::nearbyint(value);
     if (rounded >= smallest && rounded < beyond)

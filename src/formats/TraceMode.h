@@ -1,5 +1,5 @@
 // The one-byte measurement mode code of a trace and what goes by it alone: names, file extension, save
-// dialog filter. What a mode does is in the rows of control/ModeTable.h.
+// dialog filter. What a mode does is in the rows of control/ModeTable.cpp.
 #pragma once
 
 #include <cstdint>

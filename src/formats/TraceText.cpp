@@ -2,49 +2,53 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
+#include <utility>
 
 namespace Traces {
 
 namespace {
 
-constexpr std::size_t LineHashLength = 4;
-constexpr std::size_t ColonHashLength = 2;
+constexpr std::size_t HashLength = 4;
 
-std::uint32_t HashOf(std::string_view characters)
+/// Of the four characters at a place.
+std::uint32_t HashOf(const char* characters)
 {
-    std::uint32_t hash = 2166136261U;
-    for (const char c : characters)
-        hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
-    return hash ^ hash >> 15;
+    std::uint32_t bits = 0;
+    std::memcpy(&bits, characters, HashLength);
+    bits *= 2654435761U; // Knuth's multiplicative hashing
+    return bits ^ bits >> 15;
+}
+
+/// Whether a text stands at a place of the whole one.
+bool StandsAt(std::string_view whole, std::size_t place, std::string_view text)
+{
+    return whole.size() - place >= text.size() &&
+           std::memcmp(whole.data() + place, text.data(), text.size()) == 0;
 }
 
 } // namespace
 
-void TraceText::PlaceIndex::Reserve(std::size_t count)
+void TraceText::PlaceIndex::Build(std::string_view whole, std::vector<std::size_t> where,
+                                  std::ptrdiff_t shift)
 {
-    entries.reserve(count);
-    chains.resize(std::bit_ceil(std::max<std::size_t>(count, 16)));
-}
-
-void TraceText::PlaceIndex::Add(std::uint32_t hash, std::size_t place)
-{
-    Chain& chain = chains[hash & (chains.size() - 1)];
-    const auto index = static_cast<std::uint32_t>(entries.size());
-    entries.push_back({place, None});
-    if (chain.First == None)
-        chain.First = index;
-    else
-        entries[chain.Last].Next = index;
-    chain.Last = index;
+    places = std::move(where);
+    next.resize(places.size());
+    first.assign(std::bit_ceil(std::max<std::size_t>(places.size(), 16)), None);
+    // Each chain grows at its front, so the last place goes first.
+    for (std::size_t i = places.size(); i-- > 0;) {
+        std::uint32_t& front = first[HashOf(whole.data() + places[i] + shift) & (first.size() - 1)];
+        next[i] = std::exchange(front, static_cast<std::uint32_t>(i));
+    }
 }
 
 template <class Test>
-std::size_t TraceText::PlaceIndex::Find(std::uint32_t hash, Test test) const
+std::size_t TraceText::PlaceIndex::Find(std::string_view characters, Test test) const
 {
-    const Chain& chain = chains[hash & (chains.size() - 1)];
-    for (std::uint32_t i = chain.First; i != None; i = entries[i].Next)
-        if (test(entries[i].Place))
-            return entries[i].Place;
+    const std::uint32_t chain = HashOf(characters.data()) & static_cast<std::uint32_t>(first.size() - 1);
+    for (std::uint32_t i = first[chain]; i != None; i = next[i])
+        if (test(places[i]))
+            return places[i];
     return std::string_view::npos;
 }
 
@@ -62,47 +66,49 @@ TraceText::TraceText(std::string_view whole) : text(whole)
 {
     for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1))
         lineStarts.push_back(at + 1);
-    lines.Reserve(lineStarts.size());
-    for (const std::size_t start : lineStarts)
-        if (start + LineHashLength <= text.size())
-            lines.Add(HashOf(text.substr(start, LineHashLength)), start);
+    std::vector<std::size_t> hashed = lineStarts;
+    while (!hashed.empty() && hashed.back() + HashLength > text.size())
+        hashed.pop_back();
+    lines.Build(text, std::move(hashed), 0);
+}
 
-    colons.Reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), ':')));
-    for (std::size_t at = text.find(':'); at != std::string_view::npos; at = text.find(':', at + 1))
-        if (at >= ColonHashLength)
-            colons.Add(HashOf(text.substr(at - ColonHashLength, ColonHashLength)), at);
+const TraceText::PlaceIndex& TraceText::Colons() const
+{
+    if (!colons.IsBuilt()) {
+        std::vector<std::size_t> places;
+        for (std::size_t at = text.find(':'); at != std::string_view::npos; at = text.find(':', at + 1))
+            if (at >= HashLength)
+                places.push_back(at);
+        colons.Build(text, std::move(places), -static_cast<std::ptrdiff_t>(HashLength));
+    }
+    return colons;
 }
 
 std::size_t TraceText::FindLine(std::string_view key) const
 {
-    const auto begins = [&](std::size_t start) { return text.substr(start).starts_with(key); };
+    const auto begins = [&](std::size_t start) { return StandsAt(text, start, key); };
     // A key that ends in a colon is found through it: the many keys of data points differ only there.
-    if (key.size() >= ColonHashLength && key.back() == ':') {
+    if (key.size() > HashLength && key.back() == ':') {
         const std::size_t before = key.size() - 1;
-        const std::string withFeed = '\n' + std::string(key);
-        const auto ends = [&](std::size_t colon) {
-            return colon > before && text.substr(colon - before - 1).starts_with(withFeed);
-        };
-        const std::string_view lastTwo =
-            std::string_view(withFeed).substr(key.size() - ColonHashLength, ColonHashLength);
-        const std::size_t colon = colons.Find(HashOf(lastTwo), ends);
+        const std::size_t colon = Colons().Find(key.substr(before - HashLength), [&](std::size_t at) {
+            return at > before && text[at - before - 1] == '\n' && begins(at - before);
+        });
         return colon == std::string_view::npos ? colon : colon - before;
     }
-    if (key.size() >= LineHashLength)
-        return lines.Find(HashOf(key.substr(0, LineHashLength)), begins);
+    if (key.size() >= HashLength)
+        return lines.Find(key, begins);
     const auto found = std::find_if(lineStarts.begin(), lineStarts.end(), begins);
     return found == lineStarts.end() ? std::string_view::npos : *found;
 }
 
 std::size_t TraceText::FindAnywhere(std::string_view key) const
 {
-    if (key.size() <= ColonHashLength || key.back() != ':')
+    if (key.size() <= HashLength || key.back() != ':')
         return text.find(key);
     const std::size_t before = key.size() - 1;
-    const std::size_t colon =
-        colons.Find(HashOf(key.substr(before - ColonHashLength, ColonHashLength)), [&](std::size_t at) {
-            return at >= before && text.substr(at - before).starts_with(key);
-        });
+    const std::size_t colon = Colons().Find(key.substr(before - HashLength), [&](std::size_t at) {
+        return at >= before && StandsAt(text, at - before, key);
+    });
     return colon == std::string_view::npos ? colon : colon - before;
 }
 

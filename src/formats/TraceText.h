@@ -2,6 +2,7 @@
 // every lookup then finds what a search through the whole text would find, without its cost.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -39,26 +40,23 @@ public:
     std::string_view Whole() const { return text; }
 
 private:
-    /// Places in the text, chained by a hash of some characters there, each chain in the text's order.
+    /// Places in the text, chained by a hash of the four characters there, each chain in the text's order.
     class PlaceIndex {
     public:
-        void Reserve(std::size_t count);
-        void Add(std::uint32_t hash, std::size_t place);
-        /// The first place of the hash's chain that the test accepts; npos when none.
+        /// `shift` is where the hashed characters begin, from the place on; it never leads out of the text.
+        void Build(std::string_view whole, std::vector<std::size_t> where, std::ptrdiff_t shift);
+
+        /// The first place with these characters that the test accepts; npos when none.
         template <class Test>
-        std::size_t Find(std::uint32_t hash, Test test) const;
+        std::size_t Find(std::string_view characters, Test test) const;
+
+        bool IsBuilt() const { return !first.empty(); }
 
     private:
         static constexpr std::uint32_t None = 0xFFFFFFFF;
-        struct Entry {
-            std::size_t Place;
-            std::uint32_t Next;
-        };
-        struct Chain {
-            std::uint32_t First = None, Last = None;
-        };
-        std::vector<Entry> entries;
-        std::vector<Chain> chains;
+        std::vector<std::size_t> places;
+        std::vector<std::uint32_t> first; ///< number of a chain's first place, by hash
+        std::vector<std::uint32_t> next;  ///< number of the next place in the chain, by the number of one
     };
 
     /// Where the next given character stands, with the last answer kept: lookups ask for the same tab or
@@ -73,14 +71,18 @@ private:
         mutable std::size_t askedFrom = 1, answer = 0;
     };
 
+    /// Built when the first key asks for it.
+    const PlaceIndex& Colons() const;
+
     std::size_t FindLine(std::string_view key) const;
     std::size_t FindAnywhere(std::string_view key) const;
+
     std::string_view ValueBehind(std::size_t place) const;
 
     std::string_view text;
     std::vector<std::size_t> lineStarts; ///< places behind each line feed
     PlaceIndex lines;                    ///< line starts by their first characters
-    PlaceIndex colons;                   ///< colons by the characters in front of them
+    mutable PlaceIndex colons;           ///< colons by the characters in front of them
     NextCharacter nextTab{'\t'}, nextReturn{'\r'};
 };
 

@@ -117,6 +117,8 @@ TEST_F(ChartWindows, CurvesThatNoAxisHoldsAreFaults)
 {
     Curve({100, 200}, {-3E38F, 3E38F});
     EXPECT_THROW(ChooseWindow(control), HostFault);
+    Curve({-1.7E38F, 1.7E38F}, {0, 1});
+    EXPECT_THROW(ChooseWindow(control), HostFault) << "only the sliver at the right is too much";
     Curve({100, std::numeric_limits<float>::infinity()}, {0, 1});
     EXPECT_THROW(ChooseWindow(control), HostFault);
 }

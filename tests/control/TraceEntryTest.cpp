@@ -115,6 +115,7 @@ TEST_F(TraceEntry, PointCountsWithoutACurveAreFaults)
         EXPECT_EQ(FaultOf(raw), c.fault) << c.points;
     }
     EXPECT_EQ(plot.count(), 32767) << "the slot was sized before the fault";
+    EXPECT_EQ(state.YScaleBottom, -30.25F) << "the limits of the last curve that was possible";
     EXPECT_EQ(state.TraceSlots[0].Y[600], state.TraceSlots[0].Y[0]);
 }
 
@@ -158,6 +159,8 @@ TEST_F(TraceEntry, HostCurvesLieOverTheTrace)
         EXPECT_FALSE(plot.PlotCurve(bad, x, y)) << bad;
         EXPECT_EQ(plot.count(), 0) << bad;
     }
+    EXPECT_EQ(state.TraceSlots[2].X, (std::vector<float>{830, 840, 850, 0}))
+        << "what was there was taken over";
 }
 
 TEST_F(TraceEntry, TraceInfoReportsTheDecodedStateAndChangesNothing)

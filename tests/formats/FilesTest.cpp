@@ -82,6 +82,7 @@ TEST_F(Files, WhatCanNotBeReadIsNothingRatherThanEmpty)
 {
     EXPECT_EQ(ReadWholeFile(folder / "none"), std::nullopt);
     EXPECT_EQ(ReadWholeFile(folder.Path().string()), std::nullopt) << "a folder";
+    EXPECT_EQ(ReadWholeFile("/dev/zero"), std::nullopt) << "no end";
     EXPECT_FALSE(OverwriteFileBytes(folder / "none", 0, "x"));
     EXPECT_FALSE(fs::exists(folder / "none"));
 }

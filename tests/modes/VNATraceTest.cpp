@@ -60,11 +60,11 @@ TEST_F(VNATrace, MagnitudesConvertByMode)
     };
     for (const auto& c : cases) {
         const auto magnitude = ConvertMagnitude(c.mode, c.raw);
-        EXPECT_TRUE(magnitude.Converted);
-        EXPECT_NEAR(magnitude.Value, c.value, 0.0005) << "mode " << c.mode << " raw " << c.raw;
+        ASSERT_TRUE(magnitude.has_value());
+        EXPECT_NEAR(*magnitude, c.value, 0.0005) << "mode " << c.mode << " raw " << c.raw;
     }
-    EXPECT_FALSE(ConvertMagnitude(16, 10000).Converted);
-    EXPECT_FALSE(ConvertMagnitude(17, 10000).Converted);
+    EXPECT_EQ(ConvertMagnitude(16, 10000), std::nullopt);
+    EXPECT_EQ(ConvertMagnitude(17, 10000), std::nullopt);
 }
 
 TEST_F(VNATrace, ListsEveryFieldInTheOrderOfTheLayout)
@@ -193,6 +193,42 @@ TEST_F(VNATrace, LoadingKeepsWhatTheFileDoesNotGive)
     EXPECT_EQ(state.YScaleTop, 3) << "limits stay";
     EXPECT_EQ(state.Header.Model, "       ") << "a text without a line is emptied";
     EXPECT_EQ(state.TraceSlots[0].X[2], 894.5F);
+}
+
+TEST_F(VNATrace, PointsAreFoundByTheirKeysHoweverTheirLinesStand)
+{
+    struct Case {
+        const char* what;
+        const char* lines;
+        std::vector<float> values;
+    };
+    const Case cases[] = {
+        {"as saved", "Data point 0:\t1\t5\r\nData point 1:\t2\t5\r\nData point 2:\t3\t5\r\n", {1, 2, 3}},
+        {"other order", "Data point 1:\t2\t5\r\nData point 0:\t1\t5\r\nData point 2:\t3\t5\r\n", {1, 2, 3}},
+        {"a line lost", "Data point 0:\t1\t5\r\nData point 1:\t2\t5\r\n", {1, 2, 2}},
+        {"first line lost", "Data point 1:\t2\t5\r\nData point 2:\t3\t5\r\n", {0, 2, 3}},
+        {"a key in a text in front of them",
+         "Ref Number:\tData point 1:\t9\t9\r\nData point 0:\t1\t5\r\nData point 1:\t2\t5\r\n"
+         "Data point 2:\t3\t5\r\n",
+         {1, 9, 3}},
+        {"a key in a value",
+         "Data point 0:\t1\tData point 2:\t8\t8\r\nData point 1:\t2\t5\r\nData point 2:\t3\t5\r\n",
+         {0, 2, 8}},
+        {"three fields",
+         "Data point 0:\t1\t5\r\nData point 1:\t2\t5\t6\r\nData point 2:\t3\t5\r\n",
+         {1, 0, 3}},
+        {"numbers in other forms",
+         "Data point 0:\t+1\t5\r\nData point 1:\t 2 \t5\r\nData point 2:\tinf\t5\r\n",
+         {1, 2, 0}},
+        {"no line feeds", "Data point 0:\t1\t5\rData point 1:\t2\t5\rData point 2:\t3\t5\r", {1, 2, 3}},
+        {"the end cut off", "Data point 0:\t1\t5\r\nData point 1:\t2\t5\r\nData point 2:\t3\t5", {1, 2, 3}},
+    };
+    for (const Case& c : cases) {
+        state.VNA.PointValue = {};
+        Load("DataPoints:\t3\r\n" + std::string(c.lines));
+        const auto& values = state.VNA.PointValue;
+        EXPECT_EQ(std::vector<float>(values.begin(), values.begin() + 3), c.values) << c.what;
+    }
 }
 
 TEST_F(VNATrace, ANumericStandardComesBackAsItsNumbersText)

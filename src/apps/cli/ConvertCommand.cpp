@@ -99,10 +99,14 @@ int RunConvert(Console& console, const ConvertOptions& options)
     if (format.empty())
         format = KindOfName(options.Out) != nullptr ? "text" : LowerExtension(options.Out);
     if (format != "text" && format != "csv" && format != "s1p")
-        return console.Usage("convert: " + options.Out + " doesn't tell a format, --to does: text, csv, s1p");
+        return console.Usage("convert: " +
+                             (options.Format.empty() ? options.Out + " doesn't tell a format"
+                                                     : options.Format + " is no format") +
+                             ", --to takes text, csv or s1p");
     const auto input = ReadInput(console, options.In);
     OpenTrace trace;
-    if (!input || !trace.Load(console, *input))
+    const auto need = format == "text" ? OpenTrace::Need::Record : OpenTrace::Need::Curve;
+    if (!input || !trace.Load(console, *input, need))
         return console.ExitStatus();
     if (format == "text")
         ConvertToText(console, trace, options);

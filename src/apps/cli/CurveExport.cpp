@@ -79,6 +79,11 @@ std::string NoRoute(const Control& control, std::string_view what)
     return "can't be written as " + std::string(what) + ": it is a trace of " + ModeName(control.Header.Mode);
 }
 
+float MagnitudeOfSwr(double swr)
+{
+    return static_cast<float>((swr - 1) / (swr + 1));
+}
+
 /// What tells a reader of the file where it comes from.
 std::string Remark(const TraceHeader& header)
 {
@@ -148,7 +153,7 @@ Export TouchstoneOf(const Control& control)
             return {{}, "can't be written as Touchstone: it has an SWR below 1", {}};
         AppendNumberText(text, slot.X[i]);
         text += ' ';
-        AppendNumberText(text, isSwr ? (slot.Y[i] - 1) / (slot.Y[i] + 1) : slot.Y[i]);
+        AppendNumberText(text, isSwr ? MagnitudeOfSwr(static_cast<double>(slot.Y[i])) : slot.Y[i]);
         text += ' ';
         AppendNumberText(text, row->PhaseOf(control, i));
         text += "\r\n";

@@ -150,7 +150,7 @@ int RunInfo(Console& console, const InfoOptions& options)
         if (!input)
             continue;
         OpenTrace trace;
-        if (!trace.Load(console, *input))
+        if (!trace.Load(console, *input, OpenTrace::Need::Record))
             continue;
         if (options.Json)
             PrintJson(console, trace, *input);

@@ -92,13 +92,15 @@ std::string OpenTrace::LoadText(const Input& input)
     return TerminalText(platform.Messages.front().Text);
 }
 
-bool OpenTrace::Load(Console& console, const Input& input)
+bool OpenTrace::Load(Console& console, const Input& input, Need need)
 {
     std::string problem;
     try {
         problem = input.Form == TraceForm::Raw ? LoadRaw(input) : LoadText(input);
     } catch (const HostFault& fault) {
-        problem = fault.what();
+        // A raw trace is decoded before its curve is laid.
+        if (need == Need::Curve)
+            problem = fault.what();
     }
     if (!problem.empty())
         console.Error(input.Name, problem);

@@ -35,9 +35,13 @@ class OpenTrace {
 public:
     explicit OpenTrace(const TextMetrics& metrics = BuiltInMetrics());
 
+    /// What a command needs of a trace: its record, which every accepted trace has, or its curve, which some
+    /// point counts make impossible.
+    enum class Need { Record, Curve };
+
     /// Shows a trace. A raw one takes its title from the file's name. False when the console has told why
     /// it can't be shown.
-    bool Load(Console& console, const Input& input);
+    bool Load(Console& console, const Input& input, Need need);
 
     Traces::Plot& Plot() { return plot; }
     Control& Instance() { return plot.Instance(); }

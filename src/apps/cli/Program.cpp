@@ -31,7 +31,7 @@ CLI::Option* AddParsed(CLI::App& command, const std::string& name, const std::st
         for (const std::string& text : texts) {
             const auto value = parse(text);
             if (!value)
-                throw CLI::ValidationError(name, text + " isn't " + wants);
+                throw CLI::ValidationError(name, std::string(text).append(" isn't ").append(wants));
             take(*value);
         }
         return true;

@@ -96,7 +96,7 @@ bool RenderTo(Console& console, const std::string& name, const std::string& targ
         const PictureSize size = options.Size.value_or(options.Params ? DesignSizeWithPane : DesignSize);
         trace.Plot().Resize(size.Width, size.Height);
     }
-    if (!trace.Load(console, *input))
+    if (!trace.Load(console, *input, OpenTrace::Need::Curve))
         return false;
     std::string problem;
     std::string picture;

@@ -42,7 +42,7 @@ public:
 
     std::string Word()
     {
-        const std::string word(rest.substr(0, rest.find_first_of(Blanks)));
+        std::string word(rest.substr(0, rest.find_first_of(Blanks)));
         rest.remove_prefix(word.size());
         return word;
     }

@@ -11,9 +11,9 @@ namespace Traces {
 struct VNALimitSegment {
     std::uint8_t Seg = 0;
     std::uint8_t SegStatus = 0;
-    float StartX = 0; ///< as sent, Hz
+    float StartX = 0; ///< Hz, or millimetres against distance
     std::int16_t StartY = 0;
-    float EndX = 0; ///< as sent, Hz
+    float EndX = 0; ///< Hz, or millimetres against distance
     std::int16_t EndY = 0;
 };
 
@@ -25,7 +25,7 @@ struct VNARecord {
     std::array<std::int16_t, 6> FreqMarker{};           ///< point numbers
     std::int32_t SingleLimit = 0;
     std::array<VNALimitSegment, 5> LimitSegment{};
-    float StartDistance = 0, StopDistance = 0; ///< as sent
+    float StartDistance = 0, StopDistance = 0; ///< millimetres
     std::array<std::int16_t, 6> DistanceMarker{};
     float RelPropVelocity = 0; ///< of the speed of light
     float CableLoss = 0, AveCableLoss = 0;

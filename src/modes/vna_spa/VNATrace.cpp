@@ -9,69 +9,13 @@
 #include "modes/vna_spa/VNAFields.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <system_error>
 
 namespace Traces {
 
-namespace {
-
-std::size_t PointsInRecord(const Control& control)
-{
-    const int points = std::clamp<int>(control.Header.DataPoints, 0, VNARecord::MaxPoints);
-    return static_cast<std::size_t>(points);
-}
-
-/// Points that the record has no room for are left out.
-void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
-{
-    VNARecord& record = control.VNA;
-    for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
-        const int offset = VNAFirstPoint + VNAPointBytes * static_cast<int>(i);
-        if (const auto raw = ReadI32(buffer, offset)) {
-            const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw);
-            if (magnitude.Converted)
-                record.PointValue[i] = magnitude.Value;
-        }
-        if (const auto raw = ReadI32(buffer, offset + 4))
-            record.PointPhase[i] = static_cast<float>(*raw / VNAPhaseScale);
-    }
-}
-
-/// "Data point 0:", the key of a point's line.
-void AppendPointKey(std::string& text, std::size_t point)
-{
-    text += "Data point";
-    text += SignedNumberText(static_cast<std::int32_t>(point));
-    text += ':';
-}
-
-void LoadVNAPoints(Control& control, const TraceText& text)
-{
-    // A point without a line takes the fields of the point before it: they stay in `fields`.
-    LineFields fields;
-    std::string key;
-    for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
-        key.clear();
-        AppendPointKey(key, i);
-        text.ParamFields(key, fields);
-        if (fields.UpperIndex != 1)
-            continue;
-        LoadField(fields.Parts[0], &control.VNA.PointValue[i], Through::Float);
-        LoadField(fields.Parts[1], &control.VNA.PointPhase[i], Through::Float);
-    }
-}
-
-/// The standard goes through a number on its way in, which a name is not: so a file's name never replaces
-/// the record's, and a numeric text comes back as that number's text.
-void LoadVNASignalStd(VNARecord& record, const TraceText& text, const std::string& before)
-{
-    const auto number = StrictNumber<float>(text.ParamValue("VNA Signal Std"));
-    record.VNASignalStd = number ? NumberText(*number) : before;
-}
-
-} // namespace
-
-VNAMagnitude ConvertMagnitude(int mode, std::int32_t raw)
+std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
 {
     constexpr double lowestReturnLoss = -60;
     constexpr double highestSWR = 65;
@@ -93,28 +37,130 @@ VNAMagnitude ConvertMagnitude(int mode, std::int32_t raw)
         value = x == 0 ? lowest : std::clamp(20 * Log10(a / VNAMagnitudeScale), lowest, highest);
         break;
     }
-    default: return {false, 0};
+    default: return std::nullopt;
     }
-    return {true, static_cast<float>(value)};
+    return static_cast<float>(value);
+}
+
+namespace {
+
+std::size_t PointsInRecord(const Control& control)
+{
+    const int points = std::clamp<int>(control.Header.DataPoints, 0, VNARecord::MaxPoints);
+    return static_cast<std::size_t>(points);
+}
+
+/// Points that the record has no room for are left out.
+void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
+{
+    VNARecord& record = control.VNA;
+    for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
+        const int offset = VNAFirstPoint + VNAPointBytes * static_cast<int>(i);
+        if (const auto raw = ReadI32(buffer, offset)) {
+            if (const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw))
+                record.PointValue[i] = *magnitude;
+        }
+        if (const auto raw = ReadI32(buffer, offset + 4))
+            record.PointPhase[i] = static_cast<float>(*raw / VNAPhaseScale);
+    }
+}
+
+constexpr std::string_view PointKeyStem = "Data point";
+
+/// "Data point 0:", the key of a point's line.
+void AppendPointKey(std::string& text, std::size_t point)
+{
+    text += PointKeyStem;
+    AppendSignedNumberText(text, static_cast<std::int32_t>(point));
+    text += ':';
+}
+
+/// Takes a plain number and the character behind it off the front of a text.
+bool TakeNumber(std::string_view& rest, float& number, char behind)
+{
+    const char* const end = rest.data() + rest.size();
+    const auto [stop, error] = std::from_chars(rest.data(), end, number);
+    if (error != std::errc() || stop == end || *stop != behind || !std::isfinite(number))
+        return false;
+    rest.remove_prefix(static_cast<std::size_t>(stop + 1 - rest.data()));
+    return true;
+}
+
+/// Reads the points' lines as a save writes them: one behind the other, with two plain numbers each. Stops
+/// at the first that is otherwise, and returns how many it read. Lookups would find the same, in twice the
+/// time: no key stands in front of the first line, and none hides in a line of numbers.
+std::size_t LoadSavedPoints(VNARecord& record, std::size_t points, std::string_view text)
+{
+    std::string_view rest = text.substr(std::min(text.find(PointKeyStem), text.size()));
+    std::string key;
+    for (std::size_t i = 0; i < points; ++i) {
+        key.clear();
+        AppendPointKey(key, i);
+        key += '\t';
+        if (!rest.starts_with(key))
+            return i;
+        rest.remove_prefix(key.size());
+        float value = 0;
+        float phase = 0;
+        if (!TakeNumber(rest, value, '\t') || !TakeNumber(rest, phase, '\r'))
+            return i;
+        record.PointValue[i] = value;
+        record.PointPhase[i] = phase;
+        rest.remove_prefix(rest.starts_with('\n') ? 1 : 0);
+    }
+    return points;
+}
+
+void LoadVNAPoints(Control& control, const TraceText& text)
+{
+    const std::size_t points = PointsInRecord(control);
+    const std::size_t saved = LoadSavedPoints(control.VNA, points, text.Whole());
+    // A point without a line takes the fields of the point before it: they stay in `fields`, and so the
+    // last point that was read is looked up once more.
+    LineFields fields;
+    std::string key;
+    for (std::size_t i = saved == points ? points : saved - std::min<std::size_t>(saved, 1); i < points;
+         ++i) {
+        key.clear();
+        AppendPointKey(key, i);
+        text.ParamFields(key, fields);
+        if (fields.UpperIndex != 1)
+            continue;
+        LoadField(fields.Parts[0], &control.VNA.PointValue[i], Through::Float);
+        LoadField(fields.Parts[1], &control.VNA.PointPhase[i], Through::Float);
+    }
+}
+
+/// The standard goes through a number on its way in, which a name is not: so a file's name never replaces
+/// the record's, and a numeric text comes back as that number's text.
+void LoadVNASignalStd(VNARecord& record, const TraceText& text, const std::string& before)
+{
+    const auto number = StrictNumber<float>(text.ParamValue("VNA Signal Std"));
+    record.VNASignalStd = number ? NumberText(*number) : before;
+}
+
+} // namespace
+
+void DecodeVNARecord(Control& control, const RawBuffer& buffer)
+{
+    DecodeFields(buffer, control.VNA, VNAFields);
+    DecodeVNAPoints(control, buffer);
 }
 
 void DecodeVNATrace(Control& control, const RawBuffer& buffer)
 {
-    DecodeFields(buffer, control.VNA, VNAFields);
-    DecodeVNAPoints(control, buffer);
-    VNAParams(control);
+    DecodeVNARecord(control, buffer);
+    VNAParams(control, control.lstParameters);
     control.TraceSaved = false;
 }
 
-void VNAParams(Control& control)
+void VNAParams(const Control& control, ParameterList& lines)
 {
-    VNARecord& record = control.VNA;
-    ParameterList& lines = control.lstParameters;
+    const VNARecord& record = control.VNA;
     // The lines of distance markers 3 to 6 have always shown marker 2, and a saved file sets them all to it.
-    const auto markers = record.DistanceMarker;
-    std::fill(record.DistanceMarker.begin() + 2, record.DistanceMarker.end(), markers[1]);
-    AddParamLines(lines, record, VNAFields);
-    record.DistanceMarker = markers;
+    VNARecord shown = record;
+    std::fill(shown.DistanceMarker.begin() + 2, shown.DistanceMarker.end(), record.DistanceMarker[1]);
+    AddParamLines(lines, shown, VNAFields);
 
     for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
         std::string& line = lines.BeginLine();
@@ -130,9 +176,18 @@ void VNAParams(Control& control)
 void FillVNACurve(Control& control)
 {
     const VNARecord& record = control.VNA;
+    FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
     control.YScaleTop = record.ScaleTop;
     control.YScaleBottom = -record.ScaleBottom;
-    FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointValue);
+}
+
+void LoadVNARecord(Control& control, const TraceText& text)
+{
+    VNARecord& record = control.VNA;
+    const std::string standard = record.VNASignalStd;
+    LoadFields(text, record, VNAFields, Through::Float);
+    LoadVNASignalStd(record, text, standard);
+    LoadVNAPoints(control, text);
 }
 
 GpsFix VNAPosition(const Control& control)
@@ -145,11 +200,8 @@ void LoadVNAText(Control& control, std::string_view text, const std::string& pat
     const auto traceText = BeginTextLoad(control, text, path);
     if (!traceText)
         return;
-    VNARecord& record = control.VNA;
-    const std::string standard = record.VNASignalStd;
-    LoadFields(*traceText, record, VNAFields, Through::Float);
-    LoadVNASignalStd(record, *traceText, standard);
-    LoadVNAPoints(control, *traceText);
+    LoadVNARecord(control, *traceText);
+    const VNARecord& record = control.VNA;
     FillWhatFits(control, record.StartFreq, record.StopFreq, record.PointValue);
     EndTextLoad(control);
 }
