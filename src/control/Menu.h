@@ -13,7 +13,7 @@ struct MenuItem {
     bool Visible = true;
     bool Enabled = true;
     bool Checked = false;
-    int Index = -1;              ///< place in an array of items of the same name, -1 without one
+    int Index = -1;                   ///< place in an array of items of the same name, -1 without one
     std::vector<MenuItem> Items = {}; ///< submenu
 };
 

@@ -270,7 +270,7 @@ bool Plot::AutoScaleY() const
 }
 void Plot::AutoScaleY(bool value)
 {
-    control->AutoScaleY = value;
+    SetAutoScaleY(*control, value);
 }
 bool Plot::ShowParams() const
 {
@@ -278,7 +278,7 @@ bool Plot::ShowParams() const
 }
 void Plot::ShowParams(bool value)
 {
-    control->ShowParams = value;
+    SetShowParams(*control, value);
 }
 
 void Plot::Resize(int width, int height)
