@@ -21,11 +21,6 @@ std::int16_t ReverseLowBits(std::int16_t value, int count)
 
 } // namespace
 
-double Log10(double x)
-{
-    return x == 0 ? 0 : std::log(x) / 2.30258509299405;
-}
-
 PowerInUnit DbmToWattsUnit(double level)
 {
     const double watts = std::pow(10.0, level / 10 - 3);

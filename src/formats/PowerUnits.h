@@ -2,6 +2,7 @@
 // ladders differ from each other on purpose; each serves the views named with it.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -10,7 +11,10 @@ namespace Traces {
 
 /// Decimal logarithm as the instruments' software takes it: ln x / 2.30258509299405; of exactly 0 it
 /// is 0.
-double Log10(double x);
+inline double Log10(double x)
+{
+    return x == 0 ? 0 : std::log(x) / 2.30258509299405;
+}
 
 /// A power with the unit that fits it.
 struct PowerInUnit {

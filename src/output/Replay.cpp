@@ -112,7 +112,14 @@ private:
     {
         if (chain.empty())
             return;
-        const bool alongAxis = chain.size() == 2 && (chain[0].X == chain[1].X || chain[0].Y == chain[1].Y);
+        const auto isLevel = [this](double DevicePoint::*coordinate) {
+            return std::ranges::all_of(chain, [&](const DevicePoint& point) {
+                return point.*coordinate == chain.front().*coordinate;
+            });
+        };
+        // A flat curve is one, too: between two rows of pixels it would blur, and along the chart's edge half
+        // of it would be cut off.
+        const bool alongAxis = isLevel(&DevicePoint::X) || isLevel(&DevicePoint::Y);
         if (alongAxis) {
             for (DevicePoint& point : chain)
                 point = {SnapX(point.X), SnapY(point.Y)};

@@ -84,6 +84,16 @@ TEST_F(Pictures, GridLinesAreCrispAndTheCurveLiesUnderThem)
     EXPECT_GT(Count(image, QRect(4, 42, 542, 380), QColor(255, 255, 0)), 10) << "the curve's yellow";
 }
 
+TEST_F(Pictures, AFlatCurveIsOneCrispRow)
+{
+    plot.ShowTrace(RawSweep(0, {5000, 5000, 5000, 5000}).Bytes());
+    const QImage image = Painted();
+    int rows = 0;
+    for (int y = 42; y < 422; ++y)
+        rows += Count(image, QRect(4, y, 542, 1), QColor(255, 255, 0)) > 400;
+    EXPECT_EQ(rows, 1);
+}
+
 TEST_F(Pictures, TextsStayInsideTheirMeasuredPlaces)
 {
     const QImage image = Painted();

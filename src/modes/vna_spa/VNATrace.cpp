@@ -15,7 +15,11 @@
 
 namespace Traces {
 
-std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
+namespace {
+
+/// ConvertMagnitude for the loop over the points. Inlined there, because an optional float that comes back
+/// from a call goes through memory, and waiting for it took longer than the logarithm.
+inline std::optional<float> MagnitudeOf(int mode, std::int32_t raw)
 {
     constexpr double lowestReturnLoss = -60;
     constexpr double highestSWR = 65;
@@ -42,8 +46,6 @@ std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
     return static_cast<float>(value);
 }
 
-namespace {
-
 std::size_t PointsInRecord(const Control& control)
 {
     const int points = std::clamp<int>(control.Header.DataPoints, 0, VNARecord::MaxPoints);
@@ -54,10 +56,12 @@ std::size_t PointsInRecord(const Control& control)
 void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
 {
     VNARecord& record = control.VNA;
-    for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
+    const std::size_t points = PointsInRecord(control);
+    const int mode = control.Header.Mode;
+    for (std::size_t i = 0; i < points; ++i) {
         const int offset = VNAFirstPoint + VNAPointBytes * static_cast<int>(i);
         if (const auto raw = ReadI32(buffer, offset)) {
-            if (const auto magnitude = ConvertMagnitude(control.Header.Mode, *raw))
+            if (const auto magnitude = MagnitudeOf(mode, *raw))
                 record.PointValue[i] = *magnitude;
         }
         if (const auto raw = ReadI32(buffer, offset + 4))
@@ -140,6 +144,11 @@ void LoadVNASignalStd(VNARecord& record, const TraceText& text, const std::strin
 }
 
 } // namespace
+
+std::optional<float> ConvertMagnitude(int mode, std::int32_t raw)
+{
+    return MagnitudeOf(mode, raw);
+}
 
 void DecodeVNARecord(Control& control, const RawBuffer& buffer)
 {
