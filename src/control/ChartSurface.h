@@ -105,7 +105,7 @@ public:
     /// Changes whenever the picture does: a back end that keeps a painted picture compares it.
     unsigned PictureRevision() const { return pictureRevision; }
 
-    const std::vector<const ChartSurface*>& Children() const { return children; }
+    const std::vector<ChartSurface*>& Children() const { return children; }
     const std::vector<const Label*>& Labels() const { return labels; }
 
 private:
@@ -126,7 +126,7 @@ private:
     const Traces::Screen& screen;
     Layer picture, overlay;
     unsigned pictureRevision = 0;
-    std::vector<const ChartSurface*> children;
+    std::vector<ChartSurface*> children;
     std::vector<const Label*> labels;
 };
 

@@ -1,6 +1,8 @@
 #include "control/Control.h"
 
+#include "control/Properties.h"
 #include "formats/HostFault.h"
+#include "formats/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,7 +11,7 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour DefaultBackColor = 0x808080;
+constexpr Colour Grey = 0x808080;
 
 /// A curve that a host sees when it makes a view current before any trace.
 void FillDemonstrationCurve(Control& control)
@@ -26,18 +28,11 @@ void FillDemonstrationCurve(Control& control)
 
 void SetColours(Control& control)
 {
-    control.idenHolder.BackColor = DefaultBackColor;
+    control.idenHolder.BackColor = Grey;
     for (ChartSurface* box : control.ChartBoxes())
         box->BackColor = Black;
     for (ChartSurface* box : {&control.ErrorsBox, &control.idenbox1, &control.idenbox2, &control.idenbox3})
         box->BackColor = Black;
-    // The stored background property, as a new control has it.
-    control.Surface.BackColor = DefaultBackColor;
-    for (ChartSurface* holder :
-         {&control.VNAHolder, &control.SPAHolder, &control.PMHolder, &control.GPSiDENHolder,
-          &control.ZephraHolder, &control.CDMAHolder, &control.EvDOHolder, &control.CSHolder,
-          &control.E1T1Holder, &control.GSMHolder, &control.ParamBox, &control.SpectroHolder})
-        holder->BackColor = DefaultBackColor;
 }
 
 void Initialize(Control& control)
@@ -75,6 +70,7 @@ Control::Control(Traces::Platform& platform, const Traces::Families& families)
     TwipsPerPixelY = platform.TwipsPerPixelY();
     Metrics = &platform.Metrics();
     Initialize(*this);
+    LoadProperties(*this, {});
     constexpr int designWidth = 550;
     constexpr int designHeight = 480;
     Resize(*this, designWidth, designHeight);
@@ -116,6 +112,13 @@ void Clear(Control& control)
     for (std::size_t slot = 0; slot < LiveSlots; ++slot)
         control.TraceSlots[slot].Length = 0;
     control.Platform.Repaint();
+}
+
+void SetTraceName(Control& control, std::string_view name)
+{
+    control.TraceName = TrimNuls(name);
+    control.Header.RefNumber = control.TraceName;
+    RedrawTrace(control);
 }
 
 void RedrawTrace(Control& control)

@@ -6,6 +6,8 @@
 #include "control/MarkerSet.h"
 #include "control/ModeRow.h"
 #include "control/Platform.h"
+#include "control/PlotEvents.h"
+#include "control/PropertyBag.h"
 #include "formats/TraceHeader.h"
 #include "modes/vna_spa/VNARecord.h"
 
@@ -23,8 +25,6 @@ struct TraceSlot {
     std::vector<float> Y;
 };
 
-enum class MyBorderStyles { pbflat = 0, pbInset = 1, pbRaised = 2 };
-
 inline constexpr std::size_t LiveSlots = 6; ///< slots that SetIndex reaches and views draw
 
 struct Control : private Screen, public ChildControls {
@@ -33,6 +33,7 @@ struct Control : private Screen, public ChildControls {
 
     Traces::Platform& Platform;
     const Traces::Families& Families;
+    PlotEvents* Events = nullptr; ///< the host's listener, not owned
 
     std::array<TraceSlot, 81> TraceSlots;
     std::array<Colour, LiveSlots> TraceColors = {
@@ -58,6 +59,8 @@ struct Control : private Screen, public ChildControls {
     bool DisplayMarkerValues = true;
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed
 
+    ChartSurface* Captured = nullptr; ///< the surface that a mouse button was pressed on, until the release
+
     Traces::Screen& ScreenFacts() { return *this; }
 };
 
@@ -70,6 +73,9 @@ void SetSlotLength(Control& control, std::size_t slot, std::int16_t length);
 
 /// Empties the chart boxes and the live slots. Holders, their texts, records and markers stay.
 void Clear(Control& control);
+
+/// The title of every view, and the reference with it, without zero characters; redraws.
+void SetTraceName(Control& control, std::string_view name);
 
 /// The one way to the screen: shows the holder of CurrentMode, hides the others, draws the view.
 void RedrawTrace(Control& control);

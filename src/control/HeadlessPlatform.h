@@ -20,13 +20,38 @@ public:
     /// Boxes shown and dialogs opened since the lists were last cleared.
     std::vector<Message> Messages;
     std::vector<SaveDialog> SaveDialogs;
+    std::vector<Menu> Menus;
+    std::vector<std::string> ChangedProperties;
+    std::vector<std::vector<std::string>> ShownParameters;
+
+    /// What the next popup menus choose, in order; a menu without one is closed.
+    std::deque<MenuChoice> Choices;
+
+    /// The clipboard, and whether the system refuses it.
+    std::string ClipboardText;
+    std::optional<Picture> ClipboardPicture;
+    bool ClipboardFails = false;
+
+    /// Pages printed.
+    std::vector<PagePlace> Pages;
 
     void MessageBox(const Message& message) override { Messages.push_back(message); }
     std::optional<std::string> GetSaveFileNameA(const SaveDialog& dialog) override;
+    std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view initial) override;
+    std::optional<MenuChoice> PopupMenu(const Menu& menu) override;
+    void ShowParameters(const std::vector<std::string>& lines) override { ShownParameters.push_back(lines); }
+    bool ClearClipboard() override;
+    bool SetClipboardText(std::string_view text) override;
+    bool SetClipboardPicture(const Picture& picture) override;
+    bool PrintPicture(const Control& control, const PagePlace& place) override;
+    void PropertyChanged(std::string_view name) override { ChangedProperties.emplace_back(name); }
     void Repaint() override {}
     const TextMetrics& Metrics() const override { return metrics; }
 
 private:
+    std::optional<std::string> NextAnswer();
+
     const TextMetrics& metrics;
 };
 

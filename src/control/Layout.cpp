@@ -1,5 +1,6 @@
 // Size logic and layout routine: where every child control stands, in the units of its parent.
 #include "control/Control.h"
+#include "control/Properties.h"
 
 #include <algorithm>
 #include <array>
@@ -104,6 +105,7 @@ void Resize(Control& control, int width, int height)
     control.ScreenFacts().FontScaleFactor =
         std::min(control.Surface.Width / size.Width, control.Surface.Height / size.Height);
     LayOut(control);
+    DrawFrame(control);
     // A window system that resizes the control has no use for its trace's faults.
     TryRedrawTrace(control);
 }

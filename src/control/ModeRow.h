@@ -7,6 +7,7 @@
 #include "formats/RawBuffer.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,6 +16,14 @@ namespace Traces {
 
 struct Control;
 struct FileKind;
+
+/// Where a trace was taken, as the records hold it: whole degrees x 1,000,000 plus minutes x 10,000, the sign
+/// being the hemisphere; metres. -1, -1 is no position.
+struct GpsFix {
+    std::int32_t Latitude = -1, Longitude = -1;
+    std::int16_t Altitude = -1;
+    std::optional<std::string> UTCTime; ///< of the modes that have one
+};
 
 /// What a measurement mode does. A null function means that the mode has no such route.
 struct ModeRow {
@@ -43,6 +52,9 @@ struct ModeRow {
     /// @throws HostFault for a value or a position that the frame can't hold.
     std::string (*EncodeRecord)(const Control& control) = nullptr;
     std::string (*EncodeRaw)(std::string_view file) = nullptr;
+
+    /// The position in the family's record.
+    GpsFix (*Position)(const Control& control) = nullptr;
 
     /// How a text file of this mode is loaded, whatever it is called; null when there are none.
     const FileKind* TextFile = nullptr;

@@ -22,6 +22,7 @@ constexpr ModeRow SweepOfText(std::uint8_t mode)
         .Markers = &Control::VNAMarkers,
         .Params = VNAParams,
         .View = DrawVNATrace,
+        .Position = VNAPosition,
         .TextFile = &VNAFile,
     };
 }

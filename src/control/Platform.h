@@ -2,6 +2,7 @@
 // window HeadlessPlatform does. The control never opens a window itself.
 #pragma once
 
+#include "control/Menu.h"
 #include "control/Screen.h"
 
 #include <array>
@@ -33,6 +34,20 @@ struct SaveDialog {
     bool OverwritePrompt = true;
 };
 
+/// A bitmap or vector picture of the control, in a file format that its type names.
+struct Picture {
+    std::string MimeType; ///< "image/png", "image/svg+xml"
+    std::string Bytes;
+    int Width = 0, Height = 0; ///< pixels
+};
+
+/// Where a picture goes on a page: parts of the page's width and height, 1 for the whole.
+struct PagePlace {
+    double Left = 0, Top = 0, Width = 1, Height = 1;
+};
+
+struct Control;
+
 class Platform {
 public:
     virtual ~Platform() = default;
@@ -42,6 +57,30 @@ public:
 
     /// The name that the user confirmed; nothing when the dialog was cancelled.
     virtual std::optional<std::string> GetSaveFileNameA(const SaveDialog& dialog) = 0;
+
+    /// The text that the user entered; nothing when the box was cancelled.
+    virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                                std::string_view initial) = 0;
+
+    /// Opens a popup menu at the mouse and returns when an item is chosen, or none.
+    virtual std::optional<MenuChoice> PopupMenu(const Menu& menu) = 0;
+
+    /// The trace parameters form: lines of key, tab, value.
+    virtual void ShowParameters(const std::vector<std::string>& lines) = 0;
+
+    /// The clipboard. False when the system refuses.
+    virtual bool ClearClipboard() = 0;
+    virtual bool SetClipboardText(std::string_view text) = 0;
+    virtual bool SetClipboardPicture(const Picture& picture) = 0;
+
+    /// The whole control as a bitmap; nothing when this platform has no painter of its own.
+    virtual std::optional<Picture> CapturePicture(const Control& /*control*/) { return std::nullopt; }
+
+    /// Prints the control on one page. False when there is no printer or it was cancelled.
+    virtual bool PrintPicture(const Control& control, const PagePlace& place) = 0;
+
+    /// A stored property has changed, by its name in the property bag.
+    virtual void PropertyChanged(std::string_view /*name*/) {}
 
     /// The control's picture has changed.
     virtual void Repaint() = 0;

@@ -1,8 +1,10 @@
 #include "control/Plot.h"
 
+#include "chart/Markers.h"
 #include "chart/SweepCurve.h"
 #include "control/Control.h"
 #include "control/ModeTable.h"
+#include "control/Properties.h"
 #include "control/TraceEntry.h"
 #include "control/TraceFile.h"
 #include "control/Upload.h"
@@ -10,6 +12,8 @@
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "modes/vna_spa/VNATrace.h"
+#include "output/Capture.h"
+#include "output/GpsText.h"
 
 #include <cstdlib>
 
@@ -123,9 +127,7 @@ std::string Plot::TraceName() const
 
 void Plot::TraceName(std::string_view value)
 {
-    control->TraceName = TrimNuls(value);
-    control->Header.RefNumber = control->TraceName;
-    RedrawTrace();
+    SetTraceName(*control, value);
 }
 
 std::int16_t Plot::TraceNum() const
@@ -171,13 +173,104 @@ std::int16_t Plot::count() const
     return control->TraceSlots[static_cast<std::size_t>(control->SetIndex)].Length;
 }
 
+void Plot::Listen(PlotEvents* events)
+{
+    control->Events = events;
+}
+
+void Plot::MarkerOn(std::int16_t Index)
+{
+    SetMarkerState(*control, Index, true);
+}
+void Plot::MarkerOff(std::int16_t Index)
+{
+    SetMarkerState(*control, Index, false);
+}
+void Plot::ClearMarkers()
+{
+    SetMarkerState(*control, MarkerItem::ClearAll, true);
+}
+bool Plot::MarkerState(std::int16_t Index) const
+{
+    return Traces::MarkerState(*control, Index);
+}
+bool Plot::DisplayMarkerValues() const
+{
+    return control->DisplayMarkerValues;
+}
+
+void Plot::DisplayMarkerValues(bool value)
+{
+    control->DisplayMarkerValues = value;
+    RedrawTrace();
+}
+
+std::string Plot::GPSLocation() const
+{
+    return Traces::GPSLocation(*control);
+}
+Picture Plot::TracePicture()
+{
+    return Traces::TracePicture(*control);
+}
+bool Plot::Copy2Clipboard()
+{
+    return Traces::Copy2Clipboard(*control);
+}
+
+bool Plot::PrintTrace(double XScale, double YScale, double XPosition, double YPosition)
+{
+    return Traces::PrintTrace(*control, XScale, YScale, XPosition, YPosition);
+}
+
+Colour Plot::BackColor() const
+{
+    return Traces::BackColor(*control);
+}
+void Plot::BackColor(Colour value)
+{
+    SetBackColor(*control, value);
+}
+Colour Plot::ForeColor() const
+{
+    return control->ForeColor;
+}
+void Plot::ForeColor(Colour value)
+{
+    SetForeColor(*control, value);
+}
+MyBorderStyles Plot::BorderStyle() const
+{
+    return control->BorderStyle;
+}
+void Plot::BorderStyle(MyBorderStyles value)
+{
+    SetBorderStyle(*control, value);
+}
+bool Plot::AllowPopupMenu() const
+{
+    return control->AllowPopupMenu;
+}
+void Plot::AllowPopupMenu(bool value)
+{
+    SetAllowPopupMenu(*control, value);
+}
+void Plot::ReadProperties(const PropertyBag& bag)
+{
+    LoadProperties(*control, bag);
+}
+void Plot::WriteProperties(PropertyBag& bag) const
+{
+    StoreProperties(*control, bag);
+}
+
 bool Plot::AutoScaleY() const
 {
     return control->AutoScaleY;
 }
 void Plot::AutoScaleY(bool value)
 {
-    control->AutoScaleY = value;
+    SetAutoScaleY(*control, value);
 }
 bool Plot::ShowParams() const
 {
@@ -185,7 +278,7 @@ bool Plot::ShowParams() const
 }
 void Plot::ShowParams(bool value)
 {
-    control->ShowParams = value;
+    SetShowParams(*control, value);
 }
 
 void Plot::Resize(int width, int height)

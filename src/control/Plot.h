@@ -3,6 +3,8 @@
 #pragma once
 
 #include "control/Platform.h"
+#include "control/PlotEvents.h"
+#include "control/PropertyBag.h"
 
 #include <cstdint>
 #include <memory>
@@ -100,8 +102,45 @@ public:
     std::int16_t count() const;        ///< points of the slot of SetIndex
     /// @}
 
-    /// @name Properties
+    /// @name Markers
+    /// Of the family on show; nothing happens in a mode without markers. Switching one raises MarkerChanged.
+    /// @throws HostFault Range for the indexes 6 and 8, the separators of the popup menu.
     /// @{
+    void MarkerOn(std::int16_t Index);
+    void MarkerOff(std::int16_t Index);
+    void ClearMarkers();
+    bool MarkerState(std::int16_t Index) const;
+    bool DisplayMarkerValues() const; ///< the readouts show while a marker is dragged
+    void DisplayMarkerValues(bool value);
+    /// @}
+
+    /// @name Picture, clipboard, page
+    /// @{
+    std::string GPSLocation() const; ///< latitude, longitude, altitude; "N/A" without a position
+    Picture TracePicture();
+    bool Copy2Clipboard(); ///< the parameter list and the picture
+
+    /// All four are percentages of the page.
+    bool PrintTrace(double XScale, double YScale, double XPosition, double YPosition);
+    /// @}
+
+    /// Who listens to the control's events; null for nobody. The listener outlives the control, or is
+    /// taken off before.
+    void Listen(PlotEvents* events);
+
+    /// @name Properties
+    /// The first six are stored in a host's property bag.
+    /// @{
+    Colour BackColor() const;
+    void BackColor(Colour value);
+    Colour ForeColor() const;
+    void ForeColor(Colour value); ///< nothing draws with it
+    MyBorderStyles BorderStyle() const;
+    void BorderStyle(MyBorderStyles value);
+    bool AllowPopupMenu() const;
+    void AllowPopupMenu(bool value);
+    void ReadProperties(const PropertyBag& bag);
+    void WriteProperties(PropertyBag& bag) const;
     bool AutoScaleY() const;
     void AutoScaleY(bool value); ///< shows with the next redraw
     bool ShowParams() const;

@@ -323,18 +323,54 @@ TEST_F(Program, FormatsNameWhatTheTablesHoldAndTheOptions)
     EXPECT_EQ(out.find("CDMA"), std::string::npos) << "no family reads it";
 }
 
+/// The output of a shell command, errors included.
+std::string OutputOf(const std::string& command)
+{
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pipe(popen((command + " 2>&1").c_str(), "r"),
+                                                               pclose);
+    std::string output;
+    std::array<char, 256> line{};
+    while (pipe != nullptr && std::fgets(line.data(), static_cast<int>(line.size()), pipe.get()) != nullptr)
+        output += line.data();
+    return output;
+}
+
 TEST(ProgramFile, NeedsNoQtToStart)
 {
-    const std::string command = "LD_TRACE_LOADED_OBJECTS=1 " TRACES_PROGRAM;
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-    ASSERT_NE(pipe, nullptr);
-    std::string libraries;
-    std::array<char, 256> line{};
-    while (std::fgets(line.data(), static_cast<int>(line.size()), pipe.get()) != nullptr)
-        libraries += line.data();
+    const std::string libraries = OutputOf("LD_TRACE_LOADED_OBJECTS=1 " TRACES_PROGRAM);
     EXPECT_NE(libraries.find("libTraces.so"), std::string::npos) << libraries;
     EXPECT_EQ(libraries.find("Qt"), std::string::npos) << libraries;
 }
+
+TEST_F(Program, DrawsSvgWhereTheQtLayerIsMissingAndSaysSoForTheRest)
+{
+    const std::string raw = Put("a.raw", ThreePointSweep());
+    std::filesystem::create_directory(folder / "bin");
+    std::filesystem::create_directory(folder / "lib");
+    std::filesystem::copy_file(TRACES_PROGRAM, folder / "bin/traces");
+    std::filesystem::copy_file(TRACES_CORE_LIBRARY,
+                               folder / "lib" / std::filesystem::path(TRACES_CORE_LIBRARY).filename());
+    const std::string render = Path("bin/traces") + " render " + raw + " -o ";
+    EXPECT_EQ(OutputOf(render + Path("a.svg")), "");
+    EXPECT_TRUE(std::filesystem::exists(Path("a.svg")));
+    EXPECT_TRUE(OutputOf(render + Path("a.png"))
+                    .starts_with("traces: " + Path("a.png") + ": PNG and PDF need the Qt layer"));
+    EXPECT_FALSE(std::filesystem::exists(Path("a.png")));
+}
+
+#ifdef TRACES_HAS_QT
+TEST_F(Program, DrawsPngAndPdfThroughTheLibraryBesideIt)
+{
+    const std::string raw = Put("a.raw", ThreePointSweep());
+    const std::string render = TRACES_PROGRAM " render " + raw + " --size 300x200 -o ";
+    EXPECT_EQ(OutputOf(render + Path("a.png")), "");
+    const std::string png = ContentOf(Path("a.png"));
+    EXPECT_EQ(png.substr(1, 3), "PNG");
+    EXPECT_EQ(png.substr(16, 8), std::string("\0\0\x01\x2C\0\0\0\xC8", 8)) << "width and height";
+    EXPECT_EQ(OutputOf(render + Path("a.pdf")), "");
+    EXPECT_EQ(ContentOf(Path("a.pdf")).substr(0, 5), "%PDF-");
+}
+#endif
 
 } // namespace
 } // namespace Traces::Cli

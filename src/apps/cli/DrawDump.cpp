@@ -119,19 +119,4 @@ Json DrawJson(const Control& control, std::string_view name)
     return found.is_null() ? found : Json::array({std::move(found)});
 }
 
-ChartSurface* FindSurface(Control& control, std::string_view name)
-{
-    for (ChartSurface* surface : control.Holders())
-        if (surface->Name == name)
-            return surface;
-    for (ChartSurface* surface : control.ChartBoxes())
-        if (surface->Name == name)
-            return surface;
-    for (ChartSurface* surface : {&control.Surface, &control.ParamBox, &control.PowerBar, &control.ErrorsBox,
-                                  &control.VppBar, &control.idenbox1, &control.idenbox2, &control.idenbox3})
-        if (surface->Name == name)
-            return surface;
-    return nullptr;
-}
-
 } // namespace Traces::Cli

@@ -19,7 +19,4 @@ Json DrawJson(const Control& control);
 /// The surface or label of a name alone, in a list, whether it is shown or not. Null when there is none.
 Json DrawJson(const Control& control, std::string_view name);
 
-/// A surface by its name, null when there is none.
-ChartSurface* FindSurface(Control& control, std::string_view name);
-
 } // namespace Traces::Cli

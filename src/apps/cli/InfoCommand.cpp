@@ -16,18 +16,20 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 /// The value of the first line with a key, which ends in its colon.
-std::string ValueOfKey(const std::vector<std::string>& lines, std::string_view key)
+std::string_view ValueOfKey(const ParameterList& lines, std::string_view key)
 {
-    for (const std::string& line : lines)
+    for (std::size_t i = 0; i < lines.ListCount(); ++i) {
+        const std::string_view line = lines.List(i);
         if (line.starts_with(key) && line.substr(key.size(), 1) == "\t")
             return line.substr(key.size() + 1);
+    }
     return {};
 }
 
-void PrintLines(Console& console, OpenTrace& trace)
+void PrintLines(Console& console, const ParameterList& lines)
 {
-    for (const std::string& line : trace.Plot().ParametersToSave())
-        console.Out << TerminalText(line) << '\n';
+    for (std::size_t i = 0; i < lines.ListCount(); ++i)
+        console.Out << TerminalText(lines.List(i)) << '\n';
 }
 
 // Table of several files.
@@ -42,7 +44,7 @@ constexpr std::array<bool, Columns> AlignedRight = {false, false, false, true, t
 Row TableRow(OpenTrace& trace, const std::string& name)
 {
     const TraceHeader& header = trace.Instance().Header;
-    const auto lines = trace.Plot().ParametersToSave();
+    const ParameterList& lines = trace.Instance().lstParameters;
     const auto shown = [](std::string_view text) { return TerminalText(TrimNuls(text)); };
     return {OneLine(name),
             std::string(trace.Plot().TraceType()),
@@ -128,8 +130,8 @@ void PrintJson(Console& console, OpenTrace& trace, const Input& input)
 {
     const Control& control = trace.Instance();
     Json parameters = Json::object();
-    for (const std::string& line : trace.Plot().ParametersToSave())
-        AddParameter(parameters, line);
+    for (std::size_t i = 0; i < control.lstParameters.ListCount(); ++i)
+        AddParameter(parameters, control.lstParameters.List(i));
     const Json object = {{"file", input.Name},
                          {"form", input.Form == TraceForm::Raw ? "raw" : "text"},
                          {"type", trace.Plot().TraceType()},
@@ -155,7 +157,7 @@ int RunInfo(Console& console, const InfoOptions& options)
         if (options.Json)
             PrintJson(console, trace, *input);
         else if (options.Files.size() == 1)
-            PrintLines(console, trace);
+            PrintLines(console, trace.Instance().lstParameters);
         else
             rows.push_back(TableRow(trace, name));
     }

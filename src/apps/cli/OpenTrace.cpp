@@ -85,8 +85,11 @@ std::string OpenTrace::LoadText(const Input& input)
         return "has no checksum";
     platform.Messages.clear();
     kind->Load(plot.Instance(), input.Content, {});
-    if (platform.Messages.empty())
+    if (platform.Messages.empty()) {
+        // The loader lists the header alone.
+        RebuildParameters(plot.Instance());
         return {};
+    }
     if (ComputeChecksum(input.Content, field) == ReadChecksumField(input.Content))
         return "can't be verified: no temporary file can be made";
     return TerminalText(platform.Messages.front().Text);

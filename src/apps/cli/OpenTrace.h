@@ -39,8 +39,8 @@ public:
     /// point counts make impossible.
     enum class Need { Record, Curve };
 
-    /// Shows a trace. A raw one takes its title from the file's name. False when the console has told why
-    /// it can't be shown.
+    /// Shows a trace and lists its parameters, header and record. A raw one takes its title from the file's
+    /// name. False when the console has told why it can't be shown.
     bool Load(Console& console, const Input& input, Need need);
 
     Traces::Plot& Plot() { return plot; }

@@ -45,6 +45,10 @@ Json Script::Call(std::string_view line)
     }
     platform.Messages.clear();
     platform.SaveDialogs.clear();
+    platform.Menus.clear();
+    platform.ShownParameters.clear();
+    platform.ChangedProperties.clear();
+    events.Events.clear();
     try {
         reply.update(CallMember(*this, parsed));
     } catch (const HostFault& fault) {
@@ -55,6 +59,8 @@ Json Script::Call(std::string_view line)
     }
     if (!platform.Messages.empty())
         reply["messages"] = MessagesJson(platform.Messages);
+    if (!events.Events.empty())
+        reply["events"] = events.Events;
     return reply;
 }
 

@@ -5,8 +5,8 @@
 #include "apps/cli/Json.h"
 #include "control/HeadlessPlatform.h"
 #include "control/Plot.h"
+#include "control/PlotEvents.h"
 
-#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +15,8 @@ namespace Traces::Cli {
 
 class Script {
 public:
+    Script() { plot.Listen(&events); }
+
     /// The reply to a line, without a line break; nothing for a blank line. No line ends the script.
     std::optional<std::string> Run(std::string_view line);
 
@@ -22,12 +24,32 @@ public:
     Control& Instance() { return plot.Instance(); }
     HeadlessPlatform& Platform() { return platform; }
 
-    /// Items that the next popup menus answer with, in order.
-    std::deque<std::string> Choices;
-
 private:
+    /// Keeps what the control tells its host, for the reply.
+    class EventLog : public PlotEvents {
+    public:
+        Json Events = Json::array();
+
+        void KeyDown(int keyCode, int shift) override { Events.push_back({"KeyDown", keyCode, shift}); }
+        void MouseDown(int button, int shift, float x, float y) override
+        {
+            Events.push_back({"MouseDown", button, shift, ToJson(x), ToJson(y)});
+        }
+        void MouseUp(int button, int shift, float x, float y) override
+        {
+            Events.push_back({"MouseUp", button, shift, ToJson(x), ToJson(y)});
+        }
+        void Click() override { Events.push_back(Json::array({"Click"})); }
+        void DblClick() override { Events.push_back(Json::array({"DblClick"})); }
+        void MarkerChanged(std::int16_t index, bool value) override
+        {
+            Events.push_back({"MarkerChanged", index, value});
+        }
+    };
+
     Json Call(std::string_view line);
 
+    EventLog events;
     HeadlessPlatform platform;
     Traces::Plot plot{platform};
 };

@@ -4,7 +4,10 @@
 #include "apps/cli/Input.h"
 #include "apps/cli/Script.h"
 #include "apps/cli/StateFields.h"
+#include "chart/Markers.h"
+#include "control/ChartMenu.h"
 #include "control/Control.h"
+#include "control/Input.h"
 #include "formats/HostFault.h"
 #include "formats/Numbers.h"
 #include "formats/Text.h"
@@ -123,6 +126,46 @@ Json Markers(Script& script)
 
 using Values = const ScriptValues&;
 
+/// A mouse event: surface, button, shift, X, Y in the surface's units.
+template <auto Event>
+Json Mouse(Script& script, const ScriptValues& values)
+{
+    ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
+    if (surface == nullptr)
+        return Error("there is no surface " + values.Text(0));
+    Event(script.Instance(), *surface, values.Long(1), values.Long(2), values.Number(3), values.Number(4));
+    return NoResult();
+}
+
+Json DoubleClick(Script& script, const ScriptValues& values)
+{
+    ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
+    if (surface == nullptr)
+        return Error("there is no surface " + values.Text(0));
+    DblClick(script.Instance(), *surface);
+    return NoResult();
+}
+
+Json PressKey(Script& script, const ScriptValues& values)
+{
+    ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
+    if (surface == nullptr)
+        return Error("there is no surface " + values.Text(0));
+    KeyDown(script.Instance(), *surface, values.Long(1), 0);
+    return NoResult();
+}
+
+/// Runs an item's handler, with its check mark as the menu would show it now.
+Json MenuItemCall(Script& script, const ScriptValues& values)
+{
+    Control& control = script.Instance();
+    const MenuChoice choice = {values.Text(0), values.Has(1) ? values.Long(1) : -1};
+    const Menu menu = ChartMenu(control, FamilyMarkers(control));
+    const MenuItem* item = FindChosen(menu.Items, choice);
+    RunMenuItem(control, choice, item != nullptr && item->Checked);
+    return NoResult();
+}
+
 /// A name that may be left out is empty.
 std::string NameOrEmpty(Values values)
 {
@@ -155,6 +198,20 @@ constexpr ScriptMember Members[] = {
     {"count",           "",          [](Script& s, Values) { return Result(s.Plot().count()); }},
     {"ConvToDBCS",      "text",      [](Script&, Values v) { return Result(Plot::ConvToDBCS(v.Text(0))); }},
     {"Resize",          "long long", [](Script& s, Values v) { s.Plot().Resize(v.Long(0), v.Long(1)); return NoResult(); }},
+    // Markers, mouse, keys, menus.
+    {"MarkerOn",        "integer",   [](Script& s, Values v) { s.Plot().MarkerOn(v.Integer(0)); return NoResult(); }},
+    {"MarkerOff",       "integer",   [](Script& s, Values v) { s.Plot().MarkerOff(v.Integer(0)); return NoResult(); }},
+    {"ClearMarkers",    "",          [](Script& s, Values) { s.Plot().ClearMarkers(); return NoResult(); }},
+    {"MarkerState",     "integer",   [](Script& s, Values v) { return Result(s.Plot().MarkerState(v.Integer(0))); }},
+    {"MouseDown",       "name long long number number", Mouse<MouseDown>},
+    {"MouseMove",       "name long long number number", Mouse<MouseMove>},
+    {"MouseUp",         "name long long number number", Mouse<MouseUp>},
+    {"DblClick",        "name",      DoubleClick},
+    {"KeyDown",         "name long", PressKey},
+    {"MenuItem",        "name [long]", MenuItemCall},
+    // Handed on.
+    {"GPSLocation",     "",          [](Script& s, Values) { return Result(s.Plot().GPSLocation()); }},
+    {"Copy2Clipboard",  "",          [](Script& s, Values) { return Result(s.Plot().Copy2Clipboard()); }},
     // Looking into it.
     {"TextWidth",       "name text number", TextWidth},
     {"State",           "",          [](Script& s, Values) { return Json{{"result", StateJson(s.Plot())}}; }},
@@ -164,7 +221,7 @@ constexpr ScriptMember Members[] = {
     {"Draw",            "[name]",    Draw},
     // Answers to what the control will ask.
     {"Answer",          "name",      [](Script& s, Values v) { s.Platform().Answers.push_back(v.Text(0)); return NoResult(); }},
-    {"Choose",          "name",      [](Script& s, Values v) { s.Choices.push_back(v.Text(0)); return NoResult(); }},
+    {"Choose",          "name [long]", [](Script& s, Values v) { s.Platform().Choices.push_back({v.Text(0), v.Has(1) ? v.Long(1) : -1}); return NoResult(); }},
 };
 // clang-format on
 

@@ -2,6 +2,7 @@
 
 #include "control/Control.h"
 #include "control/Plot.h"
+#include "formats/HostFault.h"
 #include "formats/LibraryValues.h"
 
 #include <algorithm>
@@ -40,18 +41,32 @@ Json BorderStyle(const Plot& plot)
     return static_cast<int>(plot.Instance().BorderStyle);
 }
 
+Json BackColorOf(const Plot& plot)
+{
+    return plot.BackColor();
+}
+
+/// A number that is no border style is a range fault, as for any member that an enumeration bounds.
+void SetBorder(Plot& plot, std::int16_t style)
+{
+    if (style < 0 || style > static_cast<std::int16_t>(MyBorderStyles::pbRaised))
+        throw HostFault(FaultKind::Range, "there is no such border style");
+    plot.BorderStyle(static_cast<MyBorderStyles>(style));
+}
+
 // clang-format off
 constexpr StateField Fields[] = {
     // name             read                                      of a property: argument and write
-    {"BorderStyle",         BorderStyle},
+    {"BorderStyle",         BorderStyle,                       "integer", [](Plot& plot, const ScriptValues& v) { SetBorder(plot, v.Integer(0)); }},
+    {"BackColor",           BackColorOf,                       "long",    [](Plot& plot, const ScriptValues& v) { plot.BackColor(v.Long(0)); }},
     {"SetIndex",            Of<&Control::SetIndex>,            "integer", [](Plot& plot, const ScriptValues& v) { plot.SetIndex(v.Integer(0)); }},
-    {"ForeColor",           Of<&Control::ForeColor>},
+    {"ForeColor",           Of<&Control::ForeColor>,           "long",    [](Plot& plot, const ScriptValues& v) { plot.ForeColor(v.Long(0)); }},
     {"AutoScaleY",          Of<&Control::AutoScaleY>,          "boolean", [](Plot& plot, const ScriptValues& v) { plot.AutoScaleY(v.Boolean(0)); }},
     {"TraceName",           Of<&Control::TraceName>,           "text",    [](Plot& plot, const ScriptValues& v) { plot.TraceName(v.Text(0)); }},
     {"TraceNum",            Of<&Control::TraceNum>,            "integer", [](Plot& plot, const ScriptValues& v) { plot.TraceNum(v.Integer(0)); }},
     {"ShowParams",          Of<&Control::ShowParams>,          "boolean", [](Plot& plot, const ScriptValues& v) { plot.ShowParams(v.Boolean(0)); }},
     {"IDENWideLayout",      Of<&Control::IDENWideLayout>},
-    {"AllowPopupMenu",      Of<&Control::AllowPopupMenu>},
+    {"AllowPopupMenu",      Of<&Control::AllowPopupMenu>,      "boolean", [](Plot& plot, const ScriptValues& v) { plot.AllowPopupMenu(v.Boolean(0)); }},
     {"GridColor",           Of<&Control::GridColor>},
     {"YScaleTop",           Of<&Control::YScaleTop>},
     {"YScaleBottom",        Of<&Control::YScaleBottom>},
@@ -74,7 +89,7 @@ constexpr StateField Fields[] = {
     {"RefNumber",           OfHeader<&TraceHeader::RefNumber>},
     {"DataPoints",          OfHeader<&TraceHeader::DataPoints>},
     {"CurrentMode",         Of<&Control::CurrentMode>},
-    {"DisplayMarkerValues", Of<&Control::DisplayMarkerValues>},
+    {"DisplayMarkerValues", Of<&Control::DisplayMarkerValues>, "boolean", [](Plot& plot, const ScriptValues& v) { plot.DisplayMarkerValues(v.Boolean(0)); }},
     {"TraceSaved",          Of<&Control::TraceSaved>},
     {"FontScaleFactor",     OfScreen<&Screen::FontScaleFactor>},
     {"TwipsPerPixelX",      OfScreen<&Screen::TwipsPerPixelX>},

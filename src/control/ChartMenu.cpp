@@ -1,0 +1,178 @@
+#include "control/ChartMenu.h"
+
+#include "chart/ChartMouse.h"
+#include "chart/Markers.h"
+#include "control/Control.h"
+#include "control/Plot.h"
+#include "control/TraceFile.h"
+#include "formats/TraceMode.h"
+#include "output/Capture.h"
+#include "output/GpsText.h"
+
+#include <array>
+
+namespace Traces {
+
+namespace {
+
+constexpr std::array<std::string_view, 10> MarkerCaptions = {
+    "Marker 1", "Marker 2", "Marker 3",          "Marker 4", "Marker 5",
+    "Marker 6", "-",        "Clear All markers", "-",        "Show Marker Values"};
+
+MenuItem MarkersMenu(const Control& control, const MarkerSet* markers)
+{
+    // Lines and bursts have marker sets, but no Markers item.
+    const bool hidden = control.CurrentMode == TraceMode::GSM || control.CurrentMode == TraceMode::E1 ||
+                        control.CurrentMode == TraceMode::T1 || markers == nullptr;
+    MenuItem head{"menuMarkerHead", "Markers", !hidden};
+    for (std::size_t i = 0; i < MarkerCaptions.size(); ++i) {
+        MenuItem item{"menuMarkers", MarkerCaptions[i]};
+        item.Index = static_cast<int>(i);
+        if (!hidden && i < MarkerCount)
+            item.Checked = markers->MarkerOn[i];
+        if (!hidden && item.Index == MarkerItem::ShowValues)
+            item.Checked = control.DisplayMarkerValues;
+        head.Items.push_back(item);
+    }
+    return head;
+}
+
+void RunMarkerItem(Control& control, int index, bool checked)
+{
+    SetMarkerState(control, static_cast<std::int16_t>(index), !checked);
+}
+
+void RunTraceInfo(Control& control, int, bool)
+{
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < control.lstParameters.ListCount(); ++i)
+        lines.emplace_back(control.lstParameters.List(i));
+    control.Platform.ShowParameters(lines);
+}
+
+void RunSave(Control& control, int, bool)
+{
+    std::string filename;
+    SaveTrace(control, filename);
+}
+
+void RunSubTitle(Control& control, int, bool)
+{
+    const auto answer =
+        control.Platform.InputBox("Enter a subtitle for this plot.", "Sub-title Entry", control.TraceName);
+    if (answer && !answer->empty())
+        SetTraceName(control, *answer);
+}
+
+void RunGpsCoords(Control& control, int, bool)
+{
+    std::string text = GPSLocation(control);
+    if (text.find("N/A") == std::string::npos) {
+        control.Platform.ClearClipboard();
+        control.Platform.SetClipboardText(text);
+        text += "\r\n\r\n(copied to clipboard)";
+    }
+    control.Platform.MessageBox({"GPS Position", text, MessageIcon::Information});
+}
+
+struct ItemHandler {
+    std::string_view Name;
+    void (*Run)(Control& control, int index, bool checked);
+};
+
+constexpr auto Handlers = std::to_array<ItemHandler>({
+    {"menuAutoScale", [](Control& control, int, bool) { ToggleAutoScale(control); }},
+    {"menuUndoZoom", [](Control& control, int, bool) { UndoZoom(control); }},
+    {"menuMarkers", RunMarkerItem},
+    {"menuSubTitle", RunSubTitle},
+    {"menuTraceInfo", RunTraceInfo},
+    {"menuPMTraceInfo", RunTraceInfo},
+    {"menuSave2File", RunSave},
+    {"menuPMSaveTrace", RunSave},
+    {"menuClipboardCopy", [](Control& control, int, bool) { Copy2Clipboard(control); }},
+    {"menuPMClipboardCopy", [](Control& control, int, bool) { Copy2Clipboard(control); }},
+    {"menuGPSCoords", RunGpsCoords},
+});
+
+void Show(Control& control, const Menu& menu)
+{
+    const auto choice = control.Platform.PopupMenu(menu);
+    if (!choice)
+        return;
+    if (const MenuItem* item = FindChosen(menu.Items, *choice))
+        RunMenuItem(control, *choice, item->Checked);
+}
+
+} // namespace
+
+Menu ChartMenu(const Control& control, const MarkerSet* markers)
+{
+    const bool onChart = markers != nullptr;
+    const int mode = control.CurrentMode;
+    const bool gsm = mode == TraceMode::GSM;
+    const bool cdma = mode == TraceMode::CDMA;
+    const bool evdo = mode == TraceMode::EvDO;
+    MenuItem markerHead = MarkersMenu(control, markers);
+    const bool hasMarkers = markerHead.Visible;
+    return {"menuPopUpHeader",
+            {
+                {"menuAutoScale", "AutoScale", onChart, true, control.AutoScaleY},
+                {"menuUndoZoom", "Undo Zoom", onChart, control.ZoomActive},
+                {"menuGSMSepbar", "-", gsm},
+                {"menuGSMSpec", "Spectrum Mode", gsm},
+                {"menuGSMFrame", "Frame Mode", gsm},
+                {"menuGSMSlot", "Slot Mode", gsm},
+                {"menuCDAMSepbar", "-", cdma},
+                {"menuCDMAHistogram", "CDP Histogram", cdma},
+                {"menuCDMARFSpec", "RF Spectrum Graph", cdma},
+                {"menuCDMABitReverse", "Bit Reverse", cdma},
+                {"menuEvDOeSepbar", "-", evdo},
+                {"menuEvDOCDPMAC", "CDP - MAC", evdo},
+                {"menuEvDOCDPData", "CDP - Data", evdo},
+                {"menuEvDOOTA", "Over the Air", evdo},
+                {"menuEvDORFSpecIdle", "RF Spectrum - Idle", evdo},
+                {"menuEvDORFSpecActive", "RF Spectrum - Active", evdo},
+                {"menuSubTitleSepbar", "-"},
+                {"menuSubTitle", "Plot Subtitle"},
+                {"menuTraceInfoSepbar", "-", onChart},
+                {"menuTraceInfo", "Trace Information"},
+                {"menuSaveSepbar", "-"},
+                {"menuSave2File", "Save to File"},
+                {"menuCopySepbar", "-"},
+                {"menuClipboardCopy", "Copy to Clipboard"},
+                {"menuGPSSepbar", "-"},
+                {"menuGPSCoords", "GPS Coordinates"},
+                {"menuMarkerSepbar", "-", hasMarkers},
+                std::move(markerHead),
+            }};
+}
+
+Menu PowerMenu()
+{
+    return {"menuPMPopupHeader",
+            {
+                {"menuPMTraceInfo", "Trace Information"},
+                {"menuPMSaveSepbar", "-"},
+                {"menuPMSaveTrace", "Save Trace to File"},
+                {"menuPMSepbar", "-"},
+                {"menuPMClipboardCopy", "Copy to Clipboard"},
+            }};
+}
+
+void ShowChartMenu(Control& control, const MarkerSet* markers)
+{
+    Show(control, ChartMenu(control, markers));
+}
+void ShowPowerMenu(Control& control)
+{
+    Show(control, PowerMenu());
+}
+
+void RunMenuItem(Control& control, const MenuChoice& choice, bool checked)
+{
+    for (const ItemHandler& handler : Handlers)
+        if (handler.Name == choice.Name)
+            return handler.Run(control, choice.Index, checked);
+}
+
+} // namespace Traces

@@ -1,0 +1,170 @@
+#include "control/Input.h"
+
+#include "chart/ChartMouse.h"
+#include "chart/Markers.h"
+#include "control/ChartMenu.h"
+#include "control/Control.h"
+
+namespace Traces {
+
+namespace {
+
+struct Place {
+    double Left, Top;
+};
+
+/// Where a surface stands on the device.
+Place PlaceOf(const ChartSurface& surface)
+{
+    if (surface.Parent == nullptr)
+        return {0, 0};
+    const ChartSurface& parent = *surface.Parent;
+    const Place place = PlaceOf(parent);
+    return {place.Left + static_cast<double>(surface.Left - parent.ScaleLeft) * parent.PixelsPerUnitX(),
+            place.Top + static_cast<double>(surface.Top - parent.ScaleTop) * parent.PixelsPerUnitY()};
+}
+
+bool Contains(const ChartSurface& surface, double x, double y)
+{
+    const Place place = PlaceOf(surface);
+    return x >= place.Left && x < place.Left + surface.DeviceWidth() && y >= place.Top &&
+           y < place.Top + surface.DeviceHeight();
+}
+
+ChartSurface& DeepestAt(ChartSurface& surface, double x, double y)
+{
+    for (auto child = surface.Children().rbegin(); child != surface.Children().rend(); ++child)
+        if ((*child)->Visible && Contains(**child, x, y))
+            return DeepestAt(**child, x, y);
+    return surface;
+}
+
+ChartSurface* FindBelow(ChartSurface& surface, std::string_view name)
+{
+    if (surface.Name == name)
+        return &surface;
+    for (ChartSurface* child : surface.Children())
+        if (ChartSurface* found = FindBelow(*child, name))
+            return found;
+    return nullptr;
+}
+
+bool OpensPowerMenu(const Control& control, const ChartSurface& surface)
+{
+    return &surface == &control.PMHolder || &surface == &control.PowerBar ||
+           &surface == &control.ZephraHolder;
+}
+
+/// The menu of a surface, for a right click. True when it had one.
+bool OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* chart)
+{
+    if (!control.AllowPopupMenu)
+        return false;
+    if (chart != nullptr)
+        ShowChartMenu(control, &(control.*chart->Markers));
+    else if (&surface == &control.ParamBox)
+        ShowChartMenu(control, nullptr);
+    else if (OpensPowerMenu(control, surface))
+        ShowPowerMenu(control);
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
+void MouseDown(Control& control, ChartSurface& surface, int button, int shift, float x, float y)
+{
+    const ChartBox* chart = FindChartBox(control, surface);
+    const bool opened = button == MouseButton::Right && OpenMenu(control, surface, chart);
+    if (chart != nullptr) {
+        if (!opened)
+            ChartMouseDown(control, *chart, x, y);
+        // A zoom rectangle begins at the last press, of whichever button.
+        control.ZoomX1 = x;
+        control.ZoomY1 = y;
+    } else if (&surface == &control.Surface && control.Events != nullptr) {
+        control.Events->MouseDown(button, shift, x, y);
+    }
+    control.Platform.Repaint();
+}
+
+void MouseMove(Control& control, ChartSurface& surface, int button, int, float x, float y)
+{
+    if (const ChartBox* chart = FindChartBox(control, surface))
+        ChartMouseMove(control, *chart, button, x, y);
+}
+
+void MouseUp(Control& control, ChartSurface& surface, int button, int shift, float x, float y)
+{
+    if (const ChartBox* chart = FindChartBox(control, surface)) {
+        ChartMouseUp(control, *chart, button, x, y);
+    } else if (&surface == &control.Surface && control.Events != nullptr) {
+        control.Events->MouseUp(button, shift, x, y);
+        control.Events->Click();
+    }
+}
+
+void DblClick(Control& control, ChartSurface& surface)
+{
+    const ChartBox* chart = FindChartBox(control, surface);
+    if (chart != nullptr && chart->Zooms)
+        ToggleZoomMode(control, *chart);
+    else if (&surface == &control.Surface && control.Events != nullptr)
+        control.Events->DblClick();
+}
+
+void KeyDown(Control& control, ChartSurface& surface, int keyCode, int shift)
+{
+    if (&surface == &control.Surface && control.Events != nullptr)
+        control.Events->KeyDown(keyCode, shift);
+}
+
+void DevicePress(Control& control, int button, int shift, double x, double y)
+{
+    ChartSurface& surface = control.Captured != nullptr ? *control.Captured : SurfaceAt(control, x, y);
+    control.Captured = &surface;
+    const Point at = UserPoint(surface, x, y);
+    MouseDown(control, surface, button, shift, at.X, at.Y);
+}
+
+void DeviceMove(Control& control, int buttons, int shift, double x, double y)
+{
+    ChartSurface& surface = control.Captured != nullptr ? *control.Captured : SurfaceAt(control, x, y);
+    const Point at = UserPoint(surface, x, y);
+    MouseMove(control, surface, buttons, shift, at.X, at.Y);
+}
+
+void DeviceRelease(Control& control, int button, int shift, double x, double y)
+{
+    ChartSurface& surface = control.Captured != nullptr ? *control.Captured : SurfaceAt(control, x, y);
+    control.Captured = nullptr;
+    const Point at = UserPoint(surface, x, y);
+    MouseUp(control, surface, button, shift, at.X, at.Y);
+}
+
+void DeviceDoubleClick(Control& control, double x, double y)
+{
+    DblClick(control, SurfaceAt(control, x, y));
+}
+
+ChartSurface& SurfaceAt(Control& control, double x, double y)
+{
+    return DeepestAt(control.Surface, x, y);
+}
+
+Point UserPoint(const ChartSurface& surface, double x, double y)
+{
+    const Place place = PlaceOf(surface);
+    return {static_cast<float>(static_cast<double>(surface.ScaleLeft) +
+                               (x - place.Left) / surface.PixelsPerUnitX()),
+            static_cast<float>(static_cast<double>(surface.ScaleTop) +
+                               (y - place.Top) / surface.PixelsPerUnitY())};
+}
+
+ChartSurface* FindSurface(Control& control, std::string_view name)
+{
+    return FindBelow(control.Surface, name);
+}
+
+} // namespace Traces
