@@ -124,18 +124,22 @@ double RunProcess(const std::string& command)
     return childrenTime() - begin;
 }
 
+/// The median of many: what a process costs varies with what the kernel has at hand.
 Times MeasureProcesses(const fs::path& folder)
 {
-    constexpr int rounds = 30;
+    constexpr std::size_t rounds = 41;
     const std::string png = (folder / "process.png").string();
-    Times least{1E30, 1E30};
-    for (int i = 0; i < rounds; ++i) {
-        least.Ours = std::min(least.Ours, RunProcess(TRACES_PROGRAM " render " TRACES_SAMPLES_FOLDER
-                                                                    "/rl_dualband_antenna_601pts.raw -o " +
-                                                     png));
-        least.Theirs = std::min(least.Theirs, RunProcess("QT_QPA_PLATFORM=offscreen " TRACES_BARE_PROGRAM " " + png + " 2>/dev/null"));
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    for (std::size_t i = 0; i < rounds; ++i) {
+        ours.push_back(RunProcess(
+            TRACES_PROGRAM " render " TRACES_SAMPLES_FOLDER "/rl_dualband_antenna_601pts.raw -o " + png));
+        theirs.push_back(
+            RunProcess("QT_QPA_PLATFORM=offscreen " TRACES_BARE_PROGRAM " " + png + " 2>/dev/null"));
     }
-    return least;
+    std::ranges::sort(ours);
+    std::ranges::sort(theirs);
+    return {ours[rounds / 2], theirs[rounds / 2]};
 }
 
 bool MemoryStaysFlat(Plot& plot, PictureBackEnd& pictures, const Bytes& sample, const fs::path& folder)

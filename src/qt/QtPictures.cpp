@@ -15,6 +15,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <memory>
 
 namespace Traces {
 
@@ -84,7 +85,7 @@ void DropWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const Q
         std::fputs((message + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
 }
 
-void MakeApplicationWithoutDisplay()
+std::unique_ptr<QGuiApplication> ApplicationWithoutDisplay()
 {
     // Qt keeps the arguments by reference.
     static std::array<char, 7> program{"traces"};
@@ -93,18 +94,17 @@ void MakeApplicationWithoutDisplay()
     static std::array<char*, 4> arguments{program.data(), option.data(), platform.data(), nullptr};
     static int count = 3;
     const QtMessageHandler usual = qInstallMessageHandler(DropWarnings);
-    // The process's end takes it away: behind main's own end Qt wants no application taken down, and doing
-    // so costs as much as painting a picture. Qt keeps the pointer.
-    new QGuiApplication(count, arguments.data());
+    auto application = std::make_unique<QGuiApplication>(count, arguments.data());
     qInstallMessageHandler(usual);
+    return application;
 }
 
 } // namespace
 
 Traces::PictureBackEnd* TracesPictureBackEnd()
 {
-    if (QCoreApplication::instance() == nullptr)
-        MakeApplicationWithoutDisplay();
+    static const std::unique_ptr<QGuiApplication> own =
+        QCoreApplication::instance() == nullptr ? ApplicationWithoutDisplay() : nullptr;
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr)
         return nullptr;
     static thread_local Traces::QtPictures pictures;
