@@ -34,11 +34,13 @@ std::string GreekText(std::string_view text)
 
 std::string ScreenText(std::string_view text, std::string_view fontName)
 {
-    std::string shown = fontName == "Symbol" ? GreekText(text) : Utf8FromAnsi(text);
+    // Control characters, and the five codes that Windows-1252 leaves open.
+    constexpr std::string_view unshown = "\x7F\x81\x8D\x8F\x90\x9D";
+    std::string shown(text);
     for (char& c : shown)
-        if (static_cast<unsigned char>(c) < ' ' || c == '\x7F')
+        if (static_cast<unsigned char>(c) < ' ' || unshown.find(c) != std::string_view::npos)
             c = ' ';
-    return shown;
+    return fontName == "Symbol" ? GreekText(shown) : Utf8FromAnsi(shown);
 }
 
 } // namespace Traces

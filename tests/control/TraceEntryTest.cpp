@@ -1,7 +1,7 @@
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
 #include "control/Plot.h"
-#include "formats/HostFault.h"
+#include "support/Faults.h"
 #include "support/RawBuilder.h"
 
 #include <gtest/gtest.h>
@@ -22,12 +22,7 @@ protected:
 
     std::optional<FaultKind> FaultOf(const RawBuilder& raw)
     {
-        try {
-            plot.ShowTrace(raw.Bytes());
-        } catch (const HostFault& fault) {
-            return fault.Kind;
-        }
-        return std::nullopt;
+        return Testing::FaultOf([&] { plot.ShowTrace(raw.Bytes()); });
     }
 };
 

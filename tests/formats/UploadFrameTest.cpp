@@ -1,13 +1,14 @@
 #include "formats/UploadFrame.h"
 
-#include "formats/HostFault.h"
+#include "support/Faults.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
 
 namespace Traces {
 namespace {
+
+using Testing::FaultOf;
 
 /// Bytes as hexadecimal digits.
 std::string Hex(std::string_view bytes)
@@ -19,17 +20,6 @@ std::string Hex(std::string_view bytes)
         text += digits[static_cast<unsigned char>(c) & 0xF];
     }
     return text;
-}
-
-FaultKind FaultOf(const std::function<void()>& call)
-{
-    try {
-        call();
-    } catch (const HostFault& fault) {
-        return fault.Kind;
-    }
-    ADD_FAILURE() << "no fault";
-    return FaultKind::FileAccess;
 }
 
 TEST(ByteWriters, RoundToEvenAndKeepTheLowBytes)

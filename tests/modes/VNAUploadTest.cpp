@@ -2,8 +2,8 @@
 #include "control/HeadlessPlatform.h"
 #include "control/Plot.h"
 #include "formats/Files.h"
-#include "formats/HostFault.h"
 #include "modes/vna_spa/VNATrace.h"
+#include "support/Faults.h"
 #include "support/RawBuilder.h"
 #include "support/TraceFiles.h"
 
@@ -12,6 +12,7 @@
 namespace Traces {
 namespace {
 
+using Testing::FaultOf;
 using Testing::RawBuilder;
 using Testing::RawSweep;
 
@@ -48,17 +49,6 @@ protected:
     HeadlessPlatform platform;
     Plot plot{platform};
     Control& state = plot.Instance();
-
-    static FaultKind FaultOf(const auto& call)
-    {
-        try {
-            call();
-        } catch (const HostFault& fault) {
-            return fault.Kind;
-        }
-        ADD_FAILURE() << "no fault";
-        return FaultKind::FileAccess;
-    }
 };
 
 TEST_F(VNAUpload, TheRecordRouteWritesTheDecodedFieldsBack)

@@ -139,6 +139,8 @@ TEST_F(VNAView, TheSvgShowsTheSamePicture)
     EXPECT_NE(svg.find("<polyline points=\"4,299.32 273.65,"), std::string::npos)
         << svg.substr(svg.find("<polyline"), 200);
     EXPECT_NE(svg.find("stroke=\"#ffff00\""), std::string::npos);
+    plot.TraceName("a\tb\x9D!");
+    EXPECT_NE(SvgPicture(state).find("a b !</text>"), std::string::npos) << "what no screen shows is a blank";
     EXPECT_EQ(svg.find("nan"), std::string::npos);
     std::size_t groups = 0;
     for (std::size_t at = svg.find("</g>"); at != std::string::npos; at = svg.find("</g>", at + 1))
