@@ -26,9 +26,11 @@ void SetMarkerFlag(Control& control, MarkerSet& markers, std::int16_t index, boo
     if (index < static_cast<std::int16_t>(MarkerCount)) {
         markers.MarkerOn[static_cast<std::size_t>(index)] = value;
         control.DisplayMarkerValues = true;
+        const LifeWatch watch(control);
         if (control.Events != nullptr)
             control.Events->MarkerChanged(index, value);
-        RedrawTrace(control);
+        if (!watch.Gone())
+            RedrawTrace(control);
     } else if (index == MarkerItem::ClearAll) {
         ClearMarkers(control, markers);
     } else if (index == MarkerItem::ShowValues) {

@@ -58,9 +58,10 @@ void RunSave(Control& control, int, bool)
 
 void RunSubTitle(Control& control, int, bool)
 {
+    const LifeWatch watch(control);
     const auto answer =
         control.Platform.InputBox("Enter a subtitle for this plot.", "Sub-title Entry", control.TraceName);
-    if (answer && !answer->empty())
+    if (answer && !answer->empty() && !watch.Gone())
         SetTraceName(control, *answer);
 }
 
@@ -96,8 +97,9 @@ constexpr auto Handlers = std::to_array<ItemHandler>({
 
 void Show(Control& control, const Menu& menu)
 {
+    const LifeWatch watch(control);
     const auto choice = control.Platform.PopupMenu(menu);
-    if (!choice)
+    if (!choice || watch.Gone())
         return;
     if (const MenuItem* item = FindChosen(menu.Items, *choice))
         RunMenuItem(control, *choice, item->Checked);

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,19 @@ struct Control : private Screen, public ChildControls {
     ChartSurface* Captured = nullptr; ///< the surface that a mouse button was pressed on, until the release
 
     Traces::Screen& ScreenFacts() { return *this; }
+
+    const std::shared_ptr<const bool> Life = std::make_shared<const bool>(true); ///< for LifeWatch
+};
+
+/// Tells, after a call to the host, whether the control still stands: an event's handler, or whatever runs
+/// while a dialog is open, may have destroyed it.
+class LifeWatch {
+public:
+    explicit LifeWatch(const Control& control) : life(control.Life) {}
+    bool Gone() const { return life.expired(); }
+
+private:
+    std::weak_ptr<const bool> life;
 };
 
 /// The row of the mode on show, null when there is none.

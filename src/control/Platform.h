@@ -1,5 +1,6 @@
 // Everything that the control asks of its surroundings. A host's window system implements it; without a
-// window HeadlessPlatform does. The control never opens a window itself.
+// window HeadlessPlatform does. The control never opens a window itself. What opens a dialog or a menu may
+// let events through, and one of those may destroy the control.
 #pragma once
 
 #include "control/Menu.h"

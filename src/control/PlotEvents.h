@@ -1,4 +1,5 @@
 // What the embedding program listens to. Events are synchronous: a handler runs inside the control's call.
+// It may call back, and may destroy the control; what it throws reaches whoever made the call.
 #pragma once
 
 #include <cstdint>

@@ -62,19 +62,21 @@ bool AskSaveName(Control& control, std::string_view title, std::string& filename
 
 bool SaveTrace(Control& control, std::string& filename)
 {
+    const LifeWatch watch(control);
     if (filename.empty() || !control.TraceSaved) {
         if (filename.empty())
             filename = control.TraceName;
         AskSaveName(control, "Save Current Trace", filename, control.Header.Mode);
     }
-    if (filename.empty())
+    if (filename.empty() || watch.Gone())
         return false;
     if (filename.find('.') == std::string::npos)
         filename += ModeExtension(control.Header.Mode);
     RebuildParameters(control);
     if (!WriteTraceFile(control, filename))
         return false;
-    control.TraceSaved = true;
+    if (!watch.Gone())
+        control.TraceSaved = true;
     return true;
 }
 

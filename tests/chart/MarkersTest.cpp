@@ -97,6 +97,23 @@ TEST_F(Markers, AHandlerMayCallBackIntoTheControl)
     EXPECT_EQ(listener.Changes.size(), 2U);
 }
 
+TEST_F(Markers, AHandlerMayDestroyTheControlOrThrow)
+{
+    auto dying = std::make_unique<Plot>(platform);
+    dying->Listen(&listener);
+    dying->ShowTrace(RawSweep(0, {1000, 3162, 500}).Bytes());
+    listener.Handler = [&] { dying.reset(); };
+    platform.Choices = {{"menuMarkers", 2}};
+    ShowChartMenu(dying->Instance(), &dying->Instance().VNAMarkers);
+    EXPECT_EQ(dying, nullptr);
+
+    listener.Handler = [] { throw std::runtime_error("of the host"); };
+    EXPECT_THROW(plot.MarkerOn(1), std::runtime_error);
+    listener.Handler = nullptr;
+    plot.RedrawTrace();
+    EXPECT_TRUE(plot.MarkerState(1));
+}
+
 TEST_F(Markers, ADragMovesTheOverlayAloneAndDropsOnTheNextPoint)
 {
     plot.MarkerOn(0);

@@ -212,6 +212,7 @@ constexpr ScriptMember Members[] = {
     // Handed on.
     {"GPSLocation",     "",          [](Script& s, Values) { return Result(s.Plot().GPSLocation()); }},
     {"Copy2Clipboard",  "",          [](Script& s, Values) { return Result(s.Plot().Copy2Clipboard()); }},
+    {"PrintTrace",      "number number number number", [](Script& s, Values v) { return Result(s.Plot().PrintTrace(v.Number(0), v.Number(1), v.Number(2), v.Number(3))); }},
     // Looking into it.
     {"TextWidth",       "name text number", TextWidth},
     {"State",           "",          [](Script& s, Values) { return Json{{"result", StateJson(s.Plot())}}; }},
