@@ -1,11 +1,7 @@
 #include "apps/cli/Input.h"
 
-#include "control/ModeTable.h"
-#include "formats/Checksum.h"
-#include "formats/TraceMode.h"
-#include "formats/TraceText.h"
+#include "formats/Files.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <filesystem>
@@ -19,7 +15,7 @@ std::optional<std::string> ReadStream(std::istream& in, std::string& problem)
 {
     std::string content;
     std::array<char, 65536> block; // NOLINT(cppcoreguidelines-pro-type-member-init): read fills it
-    while (content.size() <= LargestInput) {
+    while (content.size() <= LargestFile) {
         in.read(block.data(), block.size());
         content.append(block.data(), static_cast<std::size_t>(in.gcount()));
         if (!in) {
@@ -31,14 +27,6 @@ std::optional<std::string> ReadStream(std::istream& in, std::string& problem)
     }
     problem = "is larger than any trace";
     return std::nullopt;
-}
-
-bool IsParameterLine(std::string_view line)
-{
-    const std::size_t tab = line.find('\t');
-    const auto printable = [](char c) { return static_cast<unsigned char>(c) >= ' '; };
-    return tab != 0 && tab != std::string_view::npos &&
-           std::all_of(line.begin(), line.begin() + tab, printable);
 }
 
 } // namespace
@@ -60,23 +48,6 @@ std::optional<std::string> ReadFile(const std::string& name, std::string& proble
     return problem.empty() ? ReadStream(file, problem) : std::nullopt;
 }
 
-TraceForm FormOf(std::string_view content)
-{
-    if (content.substr(0, content.find('\n')).find(ChecksumKey) != std::string_view::npos)
-        return TraceForm::Text;
-    std::size_t lines = 0;
-    std::size_t parameters = 0;
-    while (!content.empty()) {
-        const std::string_view line = content.substr(0, content.find('\n'));
-        content.remove_prefix(std::min(line.size() + 1, content.size()));
-        if (!line.empty() && line != "\r")
-            ++lines;
-        if (IsParameterLine(line))
-            ++parameters;
-    }
-    return 2 * parameters > lines ? TraceForm::Text : TraceForm::Raw;
-}
-
 std::optional<Input> ReadInput(Console& console, const std::string& name)
 {
     std::string problem;
@@ -89,17 +60,6 @@ std::optional<Input> ReadInput(Console& console, const std::string& name)
     }
     const TraceForm form = FormOf(*content);
     return Input{name, std::move(*content), form};
-}
-
-const FileKind* TextFileKind(std::string_view text, std::string& problem)
-{
-    const std::string mode(TraceText(text).ParamValue("Mode:"));
-    for (const ModeRow& row : AllFamilies.Modes)
-        if (row.TextFile != nullptr && ModeName(row.Mode) == mode)
-            return row.TextFile;
-    problem = mode.empty() ? "has no line \"Mode:\", which tells what it holds"
-                           : "has a mode that isn't supported, \"" + TerminalText(mode) + "\"";
-    return nullptr;
 }
 
 std::string StemOf(const std::string& name)

@@ -48,18 +48,11 @@ public:
     TidyPlatform& Platform() { return platform; }
 
 private:
-    std::string LoadRaw(const Input& input);
-    std::string LoadText(const Input& input);
-
     TidyPlatform platform;
     Traces::Plot plot{platform};
 };
 
 /// How many points of a curve count; its length comes from the trace and may be anything.
 std::size_t UsedPoints(const TraceSlot& slot);
-
-/// Why a raw trace that the control refused can't be shown; also for a file that is to be sent without
-/// being shown. Empty when nothing is wrong with it.
-std::string RawProblem(std::string_view content);
 
 } // namespace Traces::Cli

@@ -1,7 +1,7 @@
 // `traces upload`: the frame in which an instrument takes a trace back. The content decides the route. A text
 // file's checksum isn't asked: files of the instruments' own tools have one that only those tools know.
 #include "apps/cli/Commands.h"
-#include "apps/cli/OpenTrace.h"
+#include "apps/cli/Input.h"
 #include "apps/cli/Output.h"
 #include "control/ModeTable.h"
 #include "control/Upload.h"
@@ -14,10 +14,10 @@ namespace {
 std::string FrameOf(const Input& input, std::string& problem)
 {
     if (input.Form == TraceForm::Raw) {
-        problem = RawProblem(input.Content);
+        problem = RawProblem(AllFamilies, input.Content);
         return problem.empty() ? EncodeRawFile(AllFamilies, input.Content) : std::string();
     }
-    const FileKind* kind = TextFileKind(input.Content, problem);
+    const FileKind* kind = TextFileKind(AllFamilies, input.Content, problem);
     return kind != nullptr ? EncodeTextFile(AllFamilies, kind->Extension, input.Content) : std::string();
 }
 
@@ -40,7 +40,7 @@ int RunUpload(Console& console, const UploadOptions& options)
     if (problem.empty())
         WriteOutput(console, options.Frame, frame);
     else
-        console.Error(options.File, problem);
+        console.Error(options.File, TerminalText(problem));
     return console.ExitStatus();
 }
 
