@@ -230,7 +230,7 @@ void PlotWidget::mouseMoveEvent(QMouseEvent* event)
     Guarded([&](Control& control) {
         DeviceMove(control, ButtonsOf(event->buttons()), ShiftOf(event->modifiers()), event->position().x(),
                    event->position().y());
-        ShowPointer();
+        ShowPointer(event->position());
     });
 }
 
@@ -251,7 +251,7 @@ void PlotWidget::mouseDoubleClickEvent(QMouseEvent* event)
         return mousePressEvent(event);
     Guarded([&](Control& control) {
         DeviceDoubleClick(control, event->position().x(), event->position().y());
-        ShowPointer();
+        ShowPointer(event->position());
     });
 }
 
@@ -305,10 +305,9 @@ void PlotWidget::PictureChanged()
         kept->Description.start();
 }
 
-void PlotWidget::ShowPointer()
+void PlotWidget::ShowPointer(QPointF place)
 {
     Control& control = plot->Instance();
-    const QPointF place = mapFromGlobal(QCursor::pos());
     const ChartSurface& surface =
         control.Captured != nullptr ? *control.Captured : SurfaceAt(control, place.x(), place.y());
     const Qt::CursorShape shape = PointerShape(surface.MousePointer);

@@ -119,7 +119,7 @@ private:
 
     void TellPropertyChanged(std::string_view name);
     void PictureChanged();
-    void ShowPointer();
+    void ShowPointer(QPointF place);
     void DescribeTrace();
 
     /// Runs what a device event does to the control. This may be gone afterwards.
