@@ -105,7 +105,7 @@ TEST_F(Widgets, MenuShowsItsChecksAndOpensByKey)
     EXPECT_TRUE(captions.contains("Copy to Clipboard"));
     EXPECT_FALSE(captions.contains("Slot Mode"));
     EXPECT_EQ(checked, QStringList({"Marker 3", "Show Marker Values"}));
-    widget.SetAllowPopupMenu(false);
+    widget.setAllowPopupMenu(false);
     QApplication::sendEvent(&widget, &key); // hangs in the menu when one opens
 }
 

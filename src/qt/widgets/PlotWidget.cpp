@@ -121,7 +121,7 @@ QColor PlotWidget::ForeColor() const
     return ScreenColour(plot->ForeColor());
 }
 
-void PlotWidget::SetShowParams(bool value)
+void PlotWidget::setShowParams(bool value)
 {
     if (plot->ShowParams() == value)
         return;
@@ -130,7 +130,7 @@ void PlotWidget::SetShowParams(bool value)
     Q_EMIT ShowParamsChanged(value);
 }
 
-void PlotWidget::SetAllowPopupMenu(bool value)
+void PlotWidget::setAllowPopupMenu(bool value)
 {
     if (plot->AllowPopupMenu() == value)
         return;
@@ -138,22 +138,22 @@ void PlotWidget::SetAllowPopupMenu(bool value)
     Q_EMIT AllowPopupMenuChanged(value);
 }
 
-void PlotWidget::SetBackColor(const QColor& value)
+void PlotWidget::setBackColor(const QColor& value)
 {
     plot->BackColor(ControlColour(value));
 }
 
-void PlotWidget::SetForeColor(const QColor& value)
+void PlotWidget::setForeColor(const QColor& value)
 {
     plot->ForeColor(ControlColour(value));
 }
 
-void PlotWidget::SetBorderStyle(BorderStyles value)
+void PlotWidget::setBorderStyle(BorderStyles value)
 {
     plot->BorderStyle(static_cast<MyBorderStyles>(value));
 }
 
-void PlotWidget::SetAutoScaleY(bool value)
+void PlotWidget::setAutoScaleY(bool value)
 {
     plot->AutoScaleY(value);
 }

@@ -18,12 +18,12 @@ class QtPlatform;
 
 class PlotWidget : public QWidget {
     Q_OBJECT
-    Q_PROPERTY(bool ShowParams READ ShowParams WRITE SetShowParams NOTIFY ShowParamsChanged)
-    Q_PROPERTY(bool AllowPopupMenu READ AllowPopupMenu WRITE SetAllowPopupMenu NOTIFY AllowPopupMenuChanged)
-    Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor NOTIFY BackColorChanged)
-    Q_PROPERTY(QColor ForeColor READ ForeColor WRITE SetForeColor NOTIFY ForeColorChanged)
-    Q_PROPERTY(BorderStyles BorderStyle READ BorderStyle WRITE SetBorderStyle NOTIFY BorderStyleChanged)
-    Q_PROPERTY(bool AutoScaleY READ AutoScaleY WRITE SetAutoScaleY NOTIFY AutoScaleYChanged)
+    Q_PROPERTY(bool ShowParams READ ShowParams WRITE setShowParams NOTIFY ShowParamsChanged)
+    Q_PROPERTY(bool AllowPopupMenu READ AllowPopupMenu WRITE setAllowPopupMenu NOTIFY AllowPopupMenuChanged)
+    Q_PROPERTY(QColor BackColor READ BackColor WRITE setBackColor NOTIFY BackColorChanged)
+    Q_PROPERTY(QColor ForeColor READ ForeColor WRITE setForeColor NOTIFY ForeColorChanged)
+    Q_PROPERTY(BorderStyles BorderStyle READ BorderStyle WRITE setBorderStyle NOTIFY BorderStyleChanged)
+    Q_PROPERTY(bool AutoScaleY READ AutoScaleY WRITE setAutoScaleY NOTIFY AutoScaleYChanged)
 
 public:
     /// The values of MyBorderStyles.
@@ -42,8 +42,8 @@ public:
     /// What PrintTrace prints on from now on; not owned. Null asks the user each time, as at first.
     void SetPrinter(QPrinter* printer);
 
-    /// The stored properties; see Plot. ShowParams shows with the next resize, AutoScaleY with the next
-    /// redraw.
+    /// The stored properties; see Plot. Forms ask for setters of these names. ShowParams shows with the next
+    /// resize, AutoScaleY with the next redraw.
     /// @{
     bool ShowParams() const { return plot->ShowParams(); }
     bool AllowPopupMenu() const { return plot->AllowPopupMenu(); }
@@ -51,12 +51,12 @@ public:
     QColor ForeColor() const;
     BorderStyles BorderStyle() const { return static_cast<BorderStyles>(plot->BorderStyle()); }
     bool AutoScaleY() const { return plot->AutoScaleY(); }
-    void SetShowParams(bool value);
-    void SetAllowPopupMenu(bool value);
-    void SetBackColor(const QColor& value);
-    void SetForeColor(const QColor& value);
-    void SetBorderStyle(BorderStyles value);
-    void SetAutoScaleY(bool value);
+    void setShowParams(bool value);
+    void setAllowPopupMenu(bool value);
+    void setBackColor(const QColor& value);
+    void setForeColor(const QColor& value);
+    void setBorderStyle(BorderStyles value);
+    void setAutoScaleY(bool value);
     /// @}
 
     /// How many surfaces' pictures have been painted; a drag paints none. For measuring.
