@@ -34,6 +34,19 @@ std::optional<MenuChoice> HeadlessPlatform::PopupMenu(const Menu& menu)
     return choice;
 }
 
+void HeadlessPlatform::BeginProgress(std::string_view title, std::string_view)
+{
+    ProgressTitles.emplace_back(title);
+    ++OpenProgressForms;
+}
+
+bool HeadlessPlatform::UpdateProgress(int percent)
+{
+    ProgressPercents.push_back(percent);
+    DoEvents();
+    return !InterruptAt || percent < *InterruptAt;
+}
+
 bool HeadlessPlatform::ClearClipboard()
 {
     if (ClipboardFails)

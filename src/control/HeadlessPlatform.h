@@ -35,12 +35,22 @@ public:
     /// Pages printed.
     std::vector<PagePlace> Pages;
 
+    /// Progress forms opened and how many still are; the percentages shown, and the one from which on the
+    /// user interrupts.
+    std::vector<std::string> ProgressTitles;
+    int OpenProgressForms = 0;
+    std::vector<int> ProgressPercents;
+    std::optional<int> InterruptAt;
+
     void MessageBox(const Message& message) override { Messages.push_back(message); }
     std::optional<std::string> GetSaveFileNameA(const SaveDialog& dialog) override;
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                         std::string_view initial) override;
     std::optional<MenuChoice> PopupMenu(const Menu& menu) override;
     void ShowParameters(const std::vector<std::string>& lines) override { ShownParameters.push_back(lines); }
+    void BeginProgress(std::string_view title, std::string_view label) override;
+    bool UpdateProgress(int percent) override;
+    void EndProgress() override { --OpenProgressForms; }
     bool ClearClipboard() override;
     bool SetClipboardText(std::string_view text) override;
     bool SetClipboardPicture(const Picture& picture) override;

@@ -69,6 +69,19 @@ public:
     /// The trace parameters form: lines of key, tab, value.
     virtual void ShowParameters(const std::vector<std::string>& lines) = 0;
 
+    /// The progress form, for a job that takes the user's time: title, label and a bar, with a button whose
+    /// question "Interrupt the current process?" the form itself asks. An update lets events through; False
+    /// when the user has interrupted. A platform without a form lets the job run.
+    /// @{
+    virtual void BeginProgress(std::string_view /*title*/, std::string_view /*label*/) {}
+    virtual bool UpdateProgress(int /*percent*/)
+    {
+        DoEvents();
+        return true;
+    }
+    virtual void EndProgress() {}
+    /// @}
+
     /// The clipboard. False when the system refuses.
     virtual bool ClearClipboard() = 0;
     virtual bool SetClipboardText(std::string_view text) = 0;
