@@ -9,6 +9,7 @@
 #include "control/PlotEvents.h"
 #include "control/PropertyBag.h"
 #include "formats/TraceHeader.h"
+#include "modes/vna_spa/SPARecord.h"
 #include "modes/vna_spa/VNARecord.h"
 
 #include <array>
@@ -56,6 +57,7 @@ struct Control : private Screen, public ChildControls {
     MarkerSet VNAMarkers, SPAMarkers, E1T1Markers, GSMMarkers, CDMAMarkers, EvDOMarkers, SpectroMarkers;
     TraceHeader Header;
     VNARecord VNA;
+    SPARecord SPA;
     std::int16_t CurrentMode = -1; ///< what RedrawTrace shows; -1 until the first trace is accepted
     bool DisplayMarkerValues = true;
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed

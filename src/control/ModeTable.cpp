@@ -2,6 +2,8 @@
 
 #include "control/Control.h"
 #include "formats/TraceMode.h"
+#include "modes/vna_spa/SPATrace.h"
+#include "modes/vna_spa/SPAView.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "modes/vna_spa/VNAView.h"
 
@@ -37,14 +39,38 @@ constexpr ModeRow Sweep(std::uint8_t mode)
     return row;
 }
 
+// Spectrum analyzer.
+
+constexpr FileKind SPAFile = {"SPA", LoadSPAText, EncodeSPAText};
+
+constexpr ModeRow Spectrum = {
+    .Mode = TraceMode::Spectrum,
+    .Holder = &ChildControls::SPAHolder,
+    .Markers = &Control::SPAMarkers,
+    .Decode = DecodeSPATrace,
+    .FillCurve = FillSPACurve,
+    .Params = SPAParams,
+    .View = DrawSPATrace,
+    .EncodeRecord = EncodeSPARecord,
+    .EncodeRaw = EncodeSPARaw,
+    .Position = SPAPosition,
+    .TextFile = &SPAFile,
+};
+
 constexpr ModeRow Modes[] = {
-    Sweep(TraceMode::RLFrequency),      Sweep(TraceMode::SWRFrequency), Sweep(TraceMode::CableLossFrequency),
-    SweepOfText(TraceMode::VNAUnnamed), Sweep(TraceMode::RLDistance),   Sweep(TraceMode::SWRDistance),
+    Sweep(TraceMode::RLFrequency),
+    Sweep(TraceMode::SWRFrequency),
+    Sweep(TraceMode::CableLossFrequency),
+    SweepOfText(TraceMode::VNAUnnamed),
+    Sweep(TraceMode::RLDistance),
+    Sweep(TraceMode::SWRDistance),
+    Spectrum,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
     VNAFile,
+    SPAFile,
 };
 
 } // namespace

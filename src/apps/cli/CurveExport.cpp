@@ -36,7 +36,7 @@ enum class Reflection { None, Decibels, Swr };
 
 struct ExportRow {
     std::uint8_t Mode;
-    std::string_view X, Value, Phase; ///< headings with units
+    std::string_view X, Value, Phase; ///< headings with units; a curve without a phase has none
     float (*XOf)(const Control& control, std::size_t point);
     float (*PhaseOf)(const Control& control, std::size_t point);
     Reflection Holds;
@@ -49,6 +49,7 @@ constexpr ExportRow Rows[] = {
     {TraceMode::CableLossFrequency, "Frequency (MHz)", "Cable loss (dB)",  "Phase (deg)", FrequencyOf,     SweepPhaseOf, Reflection::None},
     {TraceMode::RLDistance,         "Distance (mm)",   "Return loss (dB)", "Phase (deg)", SweepDistanceOf, SweepPhaseOf, Reflection::None},
     {TraceMode::SWRDistance,        "Distance (mm)",   "SWR",              "Phase (deg)", SweepDistanceOf, SweepPhaseOf, Reflection::None},
+    {TraceMode::Spectrum,           "Frequency (MHz)", "Level (dBm)",      {},            FrequencyOf,     nullptr,      Reflection::None},
     {TraceMode::VNAUnnamed,         "Frequency (MHz)", "Magnitude (dB)",   "Phase (deg)", FrequencyOf,     SweepPhaseOf, Reflection::None},
 };
 // clang-format on
@@ -118,13 +119,18 @@ Export CsvOf(const Control& control)
     const std::size_t points = UsedPoints(slot);
     if (points == 0)
         return {{}, "has no points", {}};
-    std::string text = Quoted(row->X) + ',' + Quoted(row->Value) + ',' + Quoted(row->Phase) + "\r\n";
+    std::string text = Quoted(row->X) + ',' + Quoted(row->Value);
+    if (row->PhaseOf != nullptr)
+        text += ',' + Quoted(row->Phase);
+    text += "\r\n";
     for (std::size_t i = 0; i < points; ++i) {
         AppendNumberText(text, row->XOf(control, i));
         text += ',';
         AppendNumberText(text, slot.Y[i]);
-        text += ',';
-        AppendNumberText(text, row->PhaseOf(control, i));
+        if (row->PhaseOf != nullptr) {
+            text += ',';
+            AppendNumberText(text, row->PhaseOf(control, i));
+        }
         text += "\r\n";
     }
     const auto isZero = [](float value) { return value == 0; };
