@@ -9,6 +9,7 @@
 #include "control/PlotEvents.h"
 #include "control/PropertyBag.h"
 #include "formats/TraceHeader.h"
+#include "modes/channel_scanner/CSRecord.h"
 #include "modes/vna_spa/SPARecord.h"
 #include "modes/vna_spa/VNARecord.h"
 
@@ -58,6 +59,7 @@ struct Control : private Screen, public ChildControls {
     TraceHeader Header;
     VNARecord VNA;
     SPARecord SPA;
+    CSRecord CS;
     std::int16_t CurrentMode = -1; ///< what RedrawTrace shows; -1 until the first trace is accepted
     bool DisplayMarkerValues = true;
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed

@@ -61,7 +61,7 @@ bool OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* cha
     if (!control.AllowPopupMenu)
         return false;
     if (chart != nullptr)
-        ShowChartMenu(control, &(control.*chart->Markers));
+        ShowChartMenu(control, chart->Markers != nullptr ? &(control.*chart->Markers) : nullptr);
     else if (&surface == &control.ParamBox)
         ShowChartMenu(control, nullptr);
     else if (OpensPowerMenu(control, surface))

@@ -56,6 +56,9 @@ struct ModeRow {
     /// The position in the family's record.
     GpsFix (*Position)(const Control& control) = nullptr;
 
+    /// What the mouse is on, for the coordinate label of the mode's chart; null shows X and Y.
+    std::string (*CoordsText)(const Control& control, float x, float y) = nullptr;
+
     /// How a text file of this mode is loaded, whatever it is called; null when there are none.
     const FileKind* TextFile = nullptr;
 };

@@ -2,6 +2,8 @@
 
 #include "control/Control.h"
 #include "formats/TraceMode.h"
+#include "modes/channel_scanner/CSTrace.h"
+#include "modes/channel_scanner/CSView.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/SPAView.h"
 #include "modes/vna_spa/VNATrace.h"
@@ -57,6 +59,23 @@ constexpr ModeRow Spectrum = {
     .TextFile = &SPAFile,
 };
 
+// Channel scanner. Its files aren't uploaded, only the record on show.
+
+constexpr FileKind CSFile = {"CS", LoadCSText, nullptr};
+
+constexpr ModeRow ChannelScan = {
+    .Mode = TraceMode::ChannelScanner,
+    .Holder = &ChildControls::CSHolder,
+    .Decode = DecodeCSTrace,
+    .FillCurve = FillCSCurve,
+    .Params = CSParams,
+    .View = DrawCSTrace,
+    .EncodeRecord = EncodeCSRecord,
+    .Position = CSPosition,
+    .CoordsText = CSCoordsText,
+    .TextFile = &CSFile,
+};
+
 constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLFrequency),
     Sweep(TraceMode::SWRFrequency),
@@ -65,12 +84,14 @@ constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLDistance),
     Sweep(TraceMode::SWRDistance),
     Spectrum,
+    ChannelScan,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
     VNAFile,
     SPAFile,
+    CSFile,
 };
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "formats/HostFault.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
+#include "modes/channel_scanner/CSTrace.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "output/Capture.h"
@@ -93,6 +94,11 @@ void Plot::LoadVNAText(std::string_view TraceString, const std::string& path)
 void Plot::LoadSPAText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadSPAText(*control, TraceString, path);
+}
+
+void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadCSText(*control, TraceString, path);
 }
 
 std::string Plot::GetUpLoadTrace(const std::string& TraceName) const

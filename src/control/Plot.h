@@ -62,6 +62,7 @@ public:
     /// made. A message is shown, and nothing changes, when the checksum fails.
     void LoadVNAText(std::string_view TraceString, const std::string& path);
     void LoadSPAText(std::string_view TraceString, const std::string& path);
+    void LoadCSText(std::string_view TraceString, const std::string& path);
     /// @}
 
     /// @name Upload frames
