@@ -19,6 +19,8 @@ constexpr auto ChartBoxes = std::to_array<ChartBox>({
     {&ChildControls::VNABox, &Control::VNAMarkers, &ChildControls::VNACoords, "#0.000", "#0.000", true},
     {&ChildControls::SPABox, &Control::SPAMarkers, &ChildControls::SPACoords, "#0.000", "#0.000", true},
     {&ChildControls::CSBox, nullptr, &ChildControls::CSCoords, "", "", false},
+    {&ChildControls::SpectroBox, &Control::SpectroMarkers, &ChildControls::SpectroCoords, "#0.000", "#0.0",
+     false},
     {&ChildControls::E1T1Box, &Control::E1T1Markers, &ChildControls::E1T1Coords, "#0.000", "#0.000", true},
     {&ChildControls::GSMBox, &Control::GSMMarkers, &ChildControls::GSMCoords, "#0.000", "#0.000", true},
     {&ChildControls::CDMABox, &Control::CDMAMarkers, &ChildControls::CDMACoords, "#0.000", "#0.000", true},
@@ -166,6 +168,8 @@ void ChartMouseDown(Control& control, const ChartBox& chart, float x, float y)
         box.MousePointer = MousePointers::Cross;
         if (markers != nullptr)
             markers->SelectedMarker = markers->DraggedMarker = -1;
+        if (const ModeRow* row = CurrentRow(control); row != nullptr && row->Press != nullptr)
+            row->Press(control, x, y);
     }
     control.ZoomX1 = x;
     control.ZoomY1 = y;

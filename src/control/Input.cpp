@@ -108,8 +108,11 @@ void MouseUp(Control& control, ChartSurface& surface, int button, int shift, flo
 void DblClick(Control& control, ChartSurface& surface)
 {
     const ChartBox* chart = FindChartBox(control, surface);
+    const ModeRow* row = CurrentRow(control);
     if (chart != nullptr && chart->Zooms)
         ToggleZoomMode(control, *chart);
+    else if (chart != nullptr && surface.IsShown() && row != nullptr && row->DoubleClick != nullptr)
+        row->DoubleClick(control);
     else if (&surface == &control.Surface && control.Events != nullptr)
         control.Events->DblClick();
 }

@@ -4,6 +4,8 @@
 #include "formats/TraceMode.h"
 #include "modes/channel_scanner/CSTrace.h"
 #include "modes/channel_scanner/CSView.h"
+#include "modes/spectrogram/SpectroTrace.h"
+#include "modes/spectrogram/SpectroView.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/SPAView.h"
 #include "modes/vna_spa/VNATrace.h"
@@ -76,6 +78,31 @@ constexpr ModeRow ChannelScan = {
     .TextFile = &CSFile,
 };
 
+// Spectrogram: the map of all sweeps, and one sweep of it, which is no trace of its own.
+
+constexpr FileKind SpectroFile = {"SPG", LoadSpectroText, nullptr};
+
+constexpr ModeRow SpectrogramMap = {
+    .Mode = TraceMode::Spectrogram,
+    .Holder = &ChildControls::SpectroHolder,
+    .Markers = &Control::SpectroMarkers,
+    .Decode = DecodeSpectroTrace,
+    .FillCurve = FillSpectroCurve,
+    .Params = SpectroParams,
+    .View = DrawSpectroTrace,
+    .Position = SpectroPosition,
+    .CoordsText = SpectroCoordsText,
+    .Press = ChooseSweepAt,
+    .DoubleClick = ToggleSweepView,
+    .TextFile = &SpectroFile,
+};
+
+constexpr ModeRow SpectrogramSweep = {
+    .Mode = TraceMode::SpectrogramSweep,
+    .View = DrawSweepTrace,
+    .DoubleClick = ToggleSweepView,
+};
+
 constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLFrequency),
     Sweep(TraceMode::SWRFrequency),
@@ -85,6 +112,8 @@ constexpr ModeRow Modes[] = {
     Sweep(TraceMode::SWRDistance),
     Spectrum,
     ChannelScan,
+    SpectrogramMap,
+    SpectrogramSweep,
 };
 
 /// By the extensions that loading by name knows.
@@ -92,6 +121,7 @@ constexpr FileKind Files[] = {
     VNAFile,
     SPAFile,
     CSFile,
+    SpectroFile,
 };
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "modes/channel_scanner/CSTrace.h"
+#include "modes/spectrogram/SpectroTrace.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "output/Capture.h"
@@ -99,6 +100,11 @@ void Plot::LoadSPAText(std::string_view TraceString, const std::string& path)
 void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadCSText(*control, TraceString, path);
+}
+
+void Plot::LoadSpectroText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadSpectroText(*control, TraceString, path);
 }
 
 std::string Plot::GetUpLoadTrace(const std::string& TraceName) const

@@ -63,6 +63,7 @@ public:
     void LoadVNAText(std::string_view TraceString, const std::string& path);
     void LoadSPAText(std::string_view TraceString, const std::string& path);
     void LoadCSText(std::string_view TraceString, const std::string& path);
+    void LoadSpectroText(std::string_view TraceString, const std::string& path);
     /// @}
 
     /// @name Upload frames

@@ -171,6 +171,7 @@ constexpr ScriptMember Members[] = {
     {"LoadVNAText",     "file",      LoadText<&Plot::LoadVNAText>},
     {"LoadSPAText",     "file",      LoadText<&Plot::LoadSPAText>},
     {"LoadCSText",      "file",      LoadText<&Plot::LoadCSText>},
+    {"LoadSpectroText", "file",      LoadText<&Plot::LoadSpectroText>},
     {"LoadRawTrace",    "name",      [](Script& s, Values v) { return Result(s.Plot().LoadRawTrace(v.Text(0))); }},
     {"SaveTrace",       "[name]",    [](Script& s, Values v) { return Saved(NameOrEmpty(v), [&](std::string& name) { return s.Plot().SaveTrace(name); }); }},
     {"SaveRawTrace",    "file name", [](Script& s, Values v) { return Saved(v.Text(1), [&](std::string& name) { return s.Plot().SaveRawTrace(v.Text(0), name); }); }},
