@@ -53,6 +53,11 @@ struct Draw {
         Painter.setPen(lines.Pen);
         Painter.drawPolyline(lines.Points.data(), static_cast<int>(lines.Points.size()));
     }
+    void operator()(const PlainImage& image) const
+    {
+        Painter.setRenderHint(QPainter::Antialiasing, false);
+        Painter.drawImage(image.Rect, image.Cells);
+    }
     void operator()(const PlainCircle& circle) const
     {
         Painter.setRenderHint(QPainter::Antialiasing, true);
@@ -100,6 +105,19 @@ void PlainCanvas::Polyline(std::span<const DevicePoint> points, const Pen& pen, 
     for (const DevicePoint& point : points)
         lines.Points.append({point.X, point.Y});
     Picture.emplace_back(std::move(lines));
+}
+
+void PlainCanvas::Image(const DeviceRect& rect, const ColourCells& cells)
+{
+    QList<QRgb> palette;
+    for (const Colour colour : cells.Palette)
+        palette.push_back(ColourOf(colour).rgb());
+    const QImage borrowed(cells.Places.data(), cells.Columns, cells.Rows, cells.Columns,
+                          QImage::Format_Indexed8);
+    QImage image = borrowed.copy();
+    image.setColorTable(palette);
+    Picture.emplace_back(
+        PlainImage{QRectF(QPointF(rect.Left, rect.Top), QPointF(rect.Right, rect.Bottom)), image});
 }
 
 void PlainCanvas::Circle(DevicePoint centre, double radius, Colour ink, Colour fill)

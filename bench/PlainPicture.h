@@ -5,6 +5,7 @@
 #include "output/Replay.h"
 
 #include <QFont>
+#include <QImage>
 #include <QList>
 #include <QPainter>
 #include <QPen>
@@ -31,6 +32,10 @@ struct PlainLines {
     QPen Pen;
     bool Crisp;
 };
+struct PlainImage {
+    QRectF Rect;
+    QImage Cells;
+};
 struct PlainCircle {
     QPointF Centre;
     double Radius;
@@ -45,7 +50,7 @@ struct PlainText {
 };
 
 using PlainPicture =
-    std::vector<std::variant<PlainClip, PlainFill, PlainBox, PlainLines, PlainCircle, PlainText>>;
+    std::vector<std::variant<PlainClip, PlainFill, PlainBox, PlainLines, PlainImage, PlainCircle, PlainText>>;
 
 /// Collects the primitives of a replay.
 class PlainCanvas final : public Canvas {
@@ -57,6 +62,7 @@ public:
     void Fill(const DeviceRect& rect, Colour colour) override;
     void Outline(const DeviceRect& rect, const Pen& pen) override;
     void Polyline(std::span<const DevicePoint> points, const Pen& pen, bool crisp) override;
+    void Image(const DeviceRect& rect, const ColourCells& cells) override;
     void Circle(DevicePoint centre, double radius, Colour ink, Colour fill) override;
     void Text(DevicePoint topLeft, std::string_view text, const Font& font, double pixels,
               Colour ink) override;

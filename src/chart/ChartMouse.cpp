@@ -18,6 +18,9 @@ namespace {
 constexpr auto ChartBoxes = std::to_array<ChartBox>({
     {&ChildControls::VNABox, &Control::VNAMarkers, &ChildControls::VNACoords, "#0.000", "#0.000", true},
     {&ChildControls::SPABox, &Control::SPAMarkers, &ChildControls::SPACoords, "#0.000", "#0.000", true},
+    {&ChildControls::CSBox, nullptr, &ChildControls::CSCoords, "", "", false},
+    {&ChildControls::SpectroBox, &Control::SpectroMarkers, &ChildControls::SpectroCoords, "#0.000", "#0.0",
+     false},
     {&ChildControls::E1T1Box, &Control::E1T1Markers, &ChildControls::E1T1Coords, "#0.000", "#0.000", true},
     {&ChildControls::GSMBox, &Control::GSMMarkers, &ChildControls::GSMCoords, "#0.000", "#0.000", true},
     {&ChildControls::CDMABox, &Control::CDMAMarkers, &ChildControls::CDMACoords, "#0.000", "#0.000", true},
@@ -25,10 +28,17 @@ constexpr auto ChartBoxes = std::to_array<ChartBox>({
     {&ChildControls::EvDOSubBox, &Control::EvDOMarkers, &ChildControls::EvDOSubCoords, "#0.000", "#0", false},
 });
 
+MarkerSet* MarkersOf(Control& control, const ChartBox& chart)
+{
+    return chart.Markers != nullptr ? &(control.*chart.Markers) : nullptr;
+}
+
 /// The first marker that is on and within 3 pixels of a place.
 std::optional<std::int16_t> MarkerNear(const Control& control, const ChartBox& chart, float x)
 {
     constexpr float reach = 3;
+    if (chart.Markers == nullptr)
+        return std::nullopt;
     const ChartSurface& box = control.*chart.Box;
     const MarkerSet& markers = control.*chart.Markers;
     const TraceSlot& slot = control.TraceSlots[0];
@@ -48,16 +58,30 @@ void BeginOverlay(ChartSurface& box)
     box.DrawStyle = LineStyle::Dashed;
 }
 
+/// Gives a label the size of its caption, in the units of the box that it lies in.
+void FitToCaption(ChartSurface& box, Label& label)
+{
+    label.Font.Size = Font{}.Size * box.Screen().FontScaleFactor;
+    const Font kept = std::exchange(box.Font, label.Font);
+    label.Width = box.TextWidth(label.Caption);
+    label.Height = box.TextHeight(label.Caption);
+    box.Font = kept;
+}
+
 /// The label follows the mouse 2 pixels off, on the side where there is room.
 void MoveCoords(Control& control, const ChartBox& chart, float x, float y)
 {
-    const ChartSurface& box = control.*chart.Box;
+    ChartSurface& box = control.*chart.Box;
     Label& label = control.*chart.Coords;
+    const ModeRow* row = CurrentRow(control);
+    label.Caption = row != nullptr && row->CoordsText != nullptr
+                        ? row->CoordsText(control, x, y)
+                        : FormatValue(x, chart.MaskX) + ", " + FormatValue(y, chart.MaskY);
+    FitToCaption(box, label);
     const float gap = 2 * box.ScaleWidth / box.Width;
     const bool nearRight = box.ScaleLeft + box.ScaleWidth - label.Width < x;
     label.Left = nearRight ? x - label.Width - gap : x + gap;
     label.Top = box.ScaleTop - label.Height < y ? y - label.Height : y + label.Height;
-    label.Caption = FormatValue(x, chart.MaskX) + ", " + FormatValue(y, chart.MaskY);
 }
 
 void DragMarker(Control& control, const ChartBox& chart, float x)
@@ -139,17 +163,20 @@ void ToggleZoomMode(Control& control, const ChartBox& chart)
 void ChartMouseDown(Control& control, const ChartBox& chart, float x, float y)
 {
     ChartSurface& box = control.*chart.Box;
-    MarkerSet& markers = control.*chart.Markers;
-    if (control.ZoomActive) {
+    MarkerSet* markers = MarkersOf(control, chart);
+    if (control.ZoomActive && markers != nullptr) {
         BeginOverlay(box);
     } else if (const auto near = MarkerNear(control, chart, x)) {
-        markers.SelectedMarker = markers.DraggedMarker = *near;
-        markers.DragMoved = false;
+        markers->SelectedMarker = markers->DraggedMarker = *near;
+        markers->DragMoved = false;
         BeginOverlay(box);
     } else {
         (control.*chart.Coords).Visible = true;
         box.MousePointer = MousePointers::Cross;
-        markers.SelectedMarker = markers.DraggedMarker = -1;
+        if (markers != nullptr)
+            markers->SelectedMarker = markers->DraggedMarker = -1;
+        if (const ModeRow* row = CurrentRow(control); row != nullptr && row->Press != nullptr)
+            row->Press(control, x, y);
     }
     control.ZoomX1 = x;
     control.ZoomY1 = y;
@@ -158,11 +185,11 @@ void ChartMouseDown(Control& control, const ChartBox& chart, float x, float y)
 void ChartMouseMove(Control& control, const ChartBox& chart, int button, float x, float y)
 {
     ChartSurface& box = control.*chart.Box;
-    const MarkerSet& markers = control.*chart.Markers;
+    const MarkerSet* markers = MarkersOf(control, chart);
     const bool left = (button & MouseButton::Left) != 0;
-    if (left && markers.DraggedMarker >= 0) {
+    if (left && markers != nullptr && markers->DraggedMarker >= 0) {
         DragMarker(control, chart, x);
-    } else if (left && control.ZoomActive) {
+    } else if (left && markers != nullptr && control.ZoomActive) {
         box.Cls();
         box.Box(control.ZoomX1, control.ZoomY1, x, y, control.GridColor);
     }
@@ -175,12 +202,13 @@ void ChartMouseMove(Control& control, const ChartBox& chart, int button, float x
 void ChartMouseUp(Control& control, const ChartBox& chart, int button, float x, float y)
 {
     ChartSurface& box = control.*chart.Box;
-    const MarkerSet& markers = control.*chart.Markers;
-    if ((button & MouseButton::Left) != 0 && control.ZoomActive && !box.AutoRedraw)
+    const MarkerSet* markers = MarkersOf(control, chart);
+    const bool zooms = control.ZoomActive && markers != nullptr;
+    if ((button & MouseButton::Left) != 0 && zooms && !box.AutoRedraw)
         ZoomIn(control, box, x, y);
-    else if (markers.DraggedMarker >= 0)
+    else if (markers != nullptr && markers->DraggedMarker >= 0)
         DropMarker(control, chart);
-    box.MousePointer = control.ZoomActive ? MousePointers::Cross : MousePointers::Arrow;
+    box.MousePointer = zooms ? MousePointers::Cross : MousePointers::Arrow;
     (control.*chart.Coords).Visible = false;
     control.Platform.Repaint();
 }

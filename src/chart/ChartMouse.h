@@ -14,7 +14,7 @@ struct Control;
 /// A chart box with what its mouse works on.
 struct ChartBox {
     ChartSurface ChildControls::*Box;
-    MarkerSet Control::*Markers;
+    MarkerSet Control::*Markers; ///< null for a chart without markers, which has no zoom either
     Label ChildControls::*Coords;
     std::string_view MaskX, MaskY; ///< of the coordinate label
     bool Zooms;                    ///< a double click turns zoom mode on and off

@@ -63,10 +63,10 @@ void ScaleBox(ChartSurface& box, const ChartWindow& window)
     box.ScaleTop = window.Ymax;
 }
 
-void DrawCurves(const Control& control, ChartSurface& box)
+void DrawCurves(const Control& control, ChartSurface& box, std::size_t first)
 {
     box.DrawStyle = LineStyle::Solid;
-    for (std::size_t t = 0; t < LiveSlots; ++t) {
+    for (std::size_t t = first; t < LiveSlots; ++t) {
         const TraceSlot& slot = control.TraceSlots[t];
         for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i) {
             if (!IsDrawable(slot, i - 1) || !IsDrawable(slot, i))

@@ -19,9 +19,9 @@ void EndView(ChartSurface& holder, ChartSurface& box);
 /// Gives the box the window as its user system, Y upwards.
 void ScaleBox(ChartSurface& box, const ChartWindow& window);
 
-/// Slots 0 to 5, each in its colour. What lies outside of the box falls off the surface.
+/// The slots from `first` to 5, each in its colour. What lies outside of the box falls off the surface.
 /// @throws HostFault Overflow at a point that isn't finite.
-void DrawCurves(const Control& control, ChartSurface& box);
+void DrawCurves(const Control& control, ChartSurface& box, std::size_t first = 0);
 
 /// Ten dotted divisions each way, whatever the range.
 void DrawGraticule(const Control& control, ChartSurface& box, const ChartWindow& window);

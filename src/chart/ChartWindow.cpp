@@ -100,23 +100,28 @@ void PadZoomRange(ChartWindow& zoom, float top, float bottom)
     }
 }
 
-ChartWindow ChooseWindow(const Control& control)
+ChartWindow UnzoomedWindow(const Control& control)
 {
     ChartWindow window;
-    if (control.ZoomActive && control.ZoomX2 > control.ZoomX1) {
-        window = {control.ZoomX1, control.ZoomX2, control.ZoomY1, control.ZoomY2};
-        PadZoomRange(window, control.YScaleTop, control.YScaleBottom);
+    const bool extends = TraceExtent(control.TraceSlots[0], window);
+    CheckFinite(window);
+    if (extends && (control.AutoScaleY || !(control.YScaleBottom < control.YScaleTop))) {
+        float step = 0;
+        NiceRange(window.Ymin, window.Ymax, step, control.AutoScaleY);
     } else {
-        const bool extends = TraceExtent(control.TraceSlots[0], window);
-        CheckFinite(window);
-        if (extends && (control.AutoScaleY || !(control.YScaleBottom < control.YScaleTop))) {
-            float step = 0;
-            NiceRange(window.Ymin, window.Ymax, step, control.AutoScaleY);
-        } else {
-            window.Ymax = control.YScaleTop;
-            window.Ymin = control.YScaleBottom;
-        }
+        window.Ymax = control.YScaleTop;
+        window.Ymin = control.YScaleBottom;
     }
+    CheckFinite(window);
+    return window;
+}
+
+ChartWindow ChooseWindow(const Control& control)
+{
+    if (!control.ZoomActive || !(control.ZoomX2 > control.ZoomX1))
+        return UnzoomedWindow(control);
+    ChartWindow window = {control.ZoomX1, control.ZoomX2, control.ZoomY1, control.ZoomY2};
+    PadZoomRange(window, control.YScaleTop, control.YScaleBottom);
     CheckFinite(window);
     return window;
 }

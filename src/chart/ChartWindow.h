@@ -25,8 +25,11 @@ void NiceRange(float& ymin, float& ymax, float& step, bool round);
 /// limits `top` and `bottom`.
 void PadZoomRange(ChartWindow& zoom, float top, float bottom);
 
-/// The window of the current trace: the zoom rectangle, or the data's extent in X with the manual limits,
-/// or the data's own in Y.
+/// The window without a zoom: the data's extent in X with the manual limits, or the data's own in Y.
+/// @throws HostFault Overflow when the curve isn't finite.
+ChartWindow UnzoomedWindow(const Control& control);
+
+/// The window of the current trace: the zoom rectangle, or that without a zoom.
 /// @throws HostFault Overflow when the curve isn't finite.
 ChartWindow ChooseWindow(const Control& control);
 

@@ -21,8 +21,10 @@ constexpr std::array<std::string_view, 10> MarkerCaptions = {
 
 MenuItem MarkersMenu(const Control& control, const MarkerSet* markers)
 {
+    const ModeRow* row = CurrentRow(control);
     // Lines and bursts have marker sets, but no Markers item.
-    const bool hidden = control.CurrentMode == TraceMode::GSM || control.CurrentMode == TraceMode::E1 ||
+    const bool hidden = (row != nullptr && row->Markers == nullptr) ||
+                        control.CurrentMode == TraceMode::GSM || control.CurrentMode == TraceMode::E1 ||
                         control.CurrentMode == TraceMode::T1 || markers == nullptr;
     MenuItem head{"menuMarkerHead", "Markers", !hidden};
     for (std::size_t i = 0; i < MarkerCaptions.size(); ++i) {
@@ -118,7 +120,9 @@ Menu ChartMenu(const Control& control, const MarkerSet* markers)
     const bool hasMarkers = markerHead.Visible;
     return {"menuPopUpHeader",
             {
-                {"menuAutoScale", "AutoScale", onChart, true, control.AutoScaleY},
+                // A spectrogram's other axis is time.
+                {"menuAutoScale", "AutoScale", onChart && mode != TraceMode::Spectrogram, true,
+                 control.AutoScaleY},
                 {"menuUndoZoom", "Undo Zoom", onChart, control.ZoomActive},
                 {"menuGSMSepbar", "-", gsm},
                 {"menuGSMSpec", "Spectrum Mode", gsm},

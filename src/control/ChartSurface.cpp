@@ -77,6 +77,13 @@ void ChartSurface::Circle(float x, float y, float radius, Colour colour)
     CurrentY = y;
 }
 
+void ChartSurface::Image(float x1, float y1, float x2, float y2, ColourCells cells)
+{
+    Record(ImageCommand{{x1, y1}, {x2, y2}, std::move(cells)});
+    CurrentX = x2;
+    CurrentY = y2;
+}
+
 void ChartSurface::Print(std::string_view text)
 {
     Record(TextCommand{{CurrentX, CurrentY}, std::string(text), Font, ForeColor});

@@ -72,6 +72,9 @@ public:
     void FillBox(float x1, float y1, float x2, float y2, Colour colour);
     void Circle(float x, float y, float radius, Colour colour);
 
+    /// Lays a whole grid of cells over a rectangle, edge to edge: its first row begins at (x1, y1).
+    void Image(float x1, float y1, float x2, float y2, ColourCells cells);
+
     /// Draws a text with its top left at the pen, which moves to the text's end.
     void Print(std::string_view text);
 

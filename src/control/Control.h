@@ -9,6 +9,9 @@
 #include "control/PlotEvents.h"
 #include "control/PropertyBag.h"
 #include "formats/TraceHeader.h"
+#include "modes/channel_scanner/CSRecord.h"
+#include "modes/spectrogram/SpectroRecord.h"
+#include "modes/vna_spa/SPARecord.h"
 #include "modes/vna_spa/VNARecord.h"
 
 #include <array>
@@ -50,12 +53,16 @@ struct Control : private Screen, public ChildControls {
     bool AllowPopupMenu = true;
     Colour GridColor = RGB(200, 200, 200);
     float YScaleTop = 0, YScaleBottom = 0; ///< manual limits of the chart
+    std::int16_t SpectroSweep = 0;         ///< the chosen sweep of a spectrogram, from 0
     std::int16_t GSMViewMode = 0, CDMAViewMode = 0, EvDOViewMode = 0;
     bool ZoomActive = false;
     float ZoomX1 = 0, ZoomX2 = 0, ZoomY1 = 0, ZoomY2 = 0; ///< chart units
     MarkerSet VNAMarkers, SPAMarkers, E1T1Markers, GSMMarkers, CDMAMarkers, EvDOMarkers, SpectroMarkers;
     TraceHeader Header;
     VNARecord VNA;
+    SPARecord SPA;
+    CSRecord CS;
+    SpectroRecord Spectro;
     std::int16_t CurrentMode = -1; ///< what RedrawTrace shows; -1 until the first trace is accepted
     bool DisplayMarkerValues = true;
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed

@@ -2,6 +2,7 @@
 // when they were made. A Scale command opens each list and stands wherever the coordinate system changes.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -93,7 +94,31 @@ struct TextCommand {
     bool operator==(const TextCommand&) const = default;
 };
 
-using DrawCommand = std::variant<UserScale, LineCommand, BoxCommand, FillCommand, CircleCommand, TextCommand>;
+/// A grid of coloured cells, row after row, each cell a place in the palette.
+struct ColourCells {
+    int Columns = 0, Rows = 0;
+    std::vector<std::uint8_t> Places; ///< one beyond the palette takes its last colour
+    std::vector<Colour> Palette;      ///< 256 colours at most
+
+    /// Every row has all its cells, and there is a colour for them.
+    bool IsWhole() const
+    {
+        return Columns > 0 && Rows > 0 && !Palette.empty() && Palette.size() <= 256 &&
+               Places.size() == static_cast<std::size_t>(Columns) * static_cast<std::size_t>(Rows);
+    }
+    bool operator==(const ColourCells&) const = default;
+};
+
+/// A grid laid over a rectangle: its first row begins at From, its last one ends at To.
+struct ImageCommand {
+    static constexpr std::string_view Name = "Image";
+    Point From, To;
+    ColourCells Cells;
+    bool operator==(const ImageCommand&) const = default;
+};
+
+using DrawCommand =
+    std::variant<UserScale, LineCommand, BoxCommand, FillCommand, CircleCommand, TextCommand, ImageCommand>;
 
 using DisplayList = std::vector<DrawCommand>;
 

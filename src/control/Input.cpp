@@ -61,7 +61,7 @@ bool OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* cha
     if (!control.AllowPopupMenu)
         return false;
     if (chart != nullptr)
-        ShowChartMenu(control, &(control.*chart->Markers));
+        ShowChartMenu(control, chart->Markers != nullptr ? &(control.*chart->Markers) : nullptr);
     else if (&surface == &control.ParamBox)
         ShowChartMenu(control, nullptr);
     else if (OpensPowerMenu(control, surface))
@@ -123,8 +123,11 @@ void MouseUp(Control& control, ChartSurface& surface, int button, int shift, flo
 void DblClick(Control& control, ChartSurface& surface)
 {
     const ChartBox* chart = FindChartBox(control, surface);
+    const ModeRow* row = CurrentRow(control);
     if (chart != nullptr && chart->Zooms)
         ToggleZoomMode(control, *chart);
+    else if (chart != nullptr && surface.IsShown() && row != nullptr && row->DoubleClick != nullptr)
+        row->DoubleClick(control);
     else if (&surface == &control.Surface && control.Events != nullptr)
         control.Events->DblClick();
 }

@@ -56,6 +56,13 @@ struct ModeRow {
     /// The position in the family's record.
     GpsFix (*Position)(const Control& control) = nullptr;
 
+    /// What the mouse is on, for the coordinate label of the mode's chart; null shows X and Y.
+    std::string (*CoordsText)(const Control& control, float x, float y) = nullptr;
+
+    /// A press on the mode's chart that grabs no marker, and a double click on it.
+    void (*Press)(Control& control, float x, float y) = nullptr;
+    void (*DoubleClick)(Control& control) = nullptr;
+
     /// How a text file of this mode is loaded, whatever it is called; null when there are none.
     const FileKind* TextFile = nullptr;
 };

@@ -2,6 +2,12 @@
 
 #include "control/Control.h"
 #include "formats/TraceMode.h"
+#include "modes/channel_scanner/CSTrace.h"
+#include "modes/channel_scanner/CSView.h"
+#include "modes/spectrogram/SpectroTrace.h"
+#include "modes/spectrogram/SpectroView.h"
+#include "modes/vna_spa/SPATrace.h"
+#include "modes/vna_spa/SPAView.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "modes/vna_spa/VNAView.h"
 
@@ -37,14 +43,85 @@ constexpr ModeRow Sweep(std::uint8_t mode)
     return row;
 }
 
+// Spectrum analyzer.
+
+constexpr FileKind SPAFile = {"SPA", LoadSPAText, EncodeSPAText};
+
+constexpr ModeRow Spectrum = {
+    .Mode = TraceMode::Spectrum,
+    .Holder = &ChildControls::SPAHolder,
+    .Markers = &Control::SPAMarkers,
+    .Decode = DecodeSPATrace,
+    .FillCurve = FillSPACurve,
+    .Params = SPAParams,
+    .View = DrawSPATrace,
+    .EncodeRecord = EncodeSPARecord,
+    .EncodeRaw = EncodeSPARaw,
+    .Position = SPAPosition,
+    .TextFile = &SPAFile,
+};
+
+// Channel scanner. Its files aren't uploaded, only the record on show.
+
+constexpr FileKind CSFile = {"CS", LoadCSText, nullptr};
+
+constexpr ModeRow ChannelScan = {
+    .Mode = TraceMode::ChannelScanner,
+    .Holder = &ChildControls::CSHolder,
+    .Decode = DecodeCSTrace,
+    .FillCurve = FillCSCurve,
+    .Params = CSParams,
+    .View = DrawCSTrace,
+    .EncodeRecord = EncodeCSRecord,
+    .Position = CSPosition,
+    .CoordsText = CSCoordsText,
+    .TextFile = &CSFile,
+};
+
+// Spectrogram: the map of all sweeps, and one sweep of it, which is no trace of its own.
+
+constexpr FileKind SpectroFile = {"SPG", LoadSpectroText, nullptr};
+
+constexpr ModeRow SpectrogramMap = {
+    .Mode = TraceMode::Spectrogram,
+    .Holder = &ChildControls::SpectroHolder,
+    .Markers = &Control::SpectroMarkers,
+    .Decode = DecodeSpectroTrace,
+    .FillCurve = FillSpectroCurve,
+    .Params = SpectroParams,
+    .View = DrawSpectroTrace,
+    .Position = SpectroPosition,
+    .CoordsText = SpectroCoordsText,
+    .Press = ChooseSweepAt,
+    .DoubleClick = ToggleSweepView,
+    .TextFile = &SpectroFile,
+};
+
+constexpr ModeRow SpectrogramSweep = {
+    .Mode = TraceMode::SpectrogramSweep,
+    .View = DrawSweepTrace,
+    .DoubleClick = ToggleSweepView,
+};
+
 constexpr ModeRow Modes[] = {
-    Sweep(TraceMode::RLFrequency),      Sweep(TraceMode::SWRFrequency), Sweep(TraceMode::CableLossFrequency),
-    SweepOfText(TraceMode::VNAUnnamed), Sweep(TraceMode::RLDistance),   Sweep(TraceMode::SWRDistance),
+    Sweep(TraceMode::RLFrequency),
+    Sweep(TraceMode::SWRFrequency),
+    Sweep(TraceMode::CableLossFrequency),
+    SweepOfText(TraceMode::VNAUnnamed),
+    Sweep(TraceMode::RLDistance),
+    Sweep(TraceMode::SWRDistance),
+    Spectrum,
+    ChannelScan,
+    SpectrogramMap,
+    SpectrogramSweep,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
     VNAFile,
+    SPAFile,
+    CSFile,
+    SpectroFile,
 };
 
 } // namespace

@@ -11,6 +11,9 @@
 #include "formats/HostFault.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
+#include "modes/channel_scanner/CSTrace.h"
+#include "modes/spectrogram/SpectroTrace.h"
+#include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "output/Capture.h"
 #include "output/GpsText.h"
@@ -87,6 +90,21 @@ void Plot::loadTextFile(const std::string& TraceName)
 void Plot::LoadVNAText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadVNAText(*control, TraceString, path);
+}
+
+void Plot::LoadSPAText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadSPAText(*control, TraceString, path);
+}
+
+void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadCSText(*control, TraceString, path);
+}
+
+void Plot::LoadSpectroText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadSpectroText(*control, TraceString, path);
 }
 
 std::string Plot::GetUpLoadTrace(const std::string& TraceName) const

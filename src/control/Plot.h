@@ -61,6 +61,9 @@ public:
     /// Loaders of files' texts; `path` names a file that the checksum may use when no temporary one can be
     /// made. A message is shown, and nothing changes, when the checksum fails.
     void LoadVNAText(std::string_view TraceString, const std::string& path);
+    void LoadSPAText(std::string_view TraceString, const std::string& path);
+    void LoadCSText(std::string_view TraceString, const std::string& path);
+    void LoadSpectroText(std::string_view TraceString, const std::string& path);
     /// @}
 
     /// @name Upload frames

@@ -67,13 +67,18 @@ bool VerifyTraceChecksum(Platform& platform, std::string_view text, const std::s
     return verified;
 }
 
+void TakeTextHead(Control& control, const TraceText& text)
+{
+    HeaderFromText(text, control.Header, control.lstParameters);
+    control.TraceName = TrimNuls(control.Header.RefNumber);
+}
+
 std::optional<TraceText> BeginTextLoad(Control& control, std::string_view text, const std::string& path)
 {
     if (!VerifyTraceChecksum(control.Platform, text, path))
         return std::nullopt;
     std::optional<TraceText> traceText(text);
-    HeaderFromText(*traceText, control.Header, control.lstParameters);
-    control.TraceName = TrimNuls(control.Header.RefNumber);
+    TakeTextHead(control, *traceText);
     return traceText;
 }
 

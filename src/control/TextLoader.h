@@ -21,6 +21,9 @@ std::string MakeTempName(Platform& platform);
 /// made.
 bool VerifyTraceChecksum(Platform& platform, std::string_view text, const std::string& path);
 
+/// The header, the title and the beginning of the parameter list, from a text that has been verified.
+void TakeTextHead(Control& control, const TraceText& text);
+
 /// Verifies, reads the header and begins the parameter list. Nothing, and no change, when the checksum
 /// fails. The result refers to the text.
 std::optional<TraceText> BeginTextLoad(Control& control, std::string_view text, const std::string& path);

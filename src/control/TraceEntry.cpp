@@ -74,7 +74,10 @@ std::string TraceInfo(const Control& control)
 
 void RebuildParameters(Control& control)
 {
-    if (control.Header.Mode != TraceMode::Spectrogram)
+    // A spectrogram's own lines begin with the header's.
+    if (control.Header.Mode == TraceMode::Spectrogram)
+        control.lstParameters.Clear();
+    else
         HeaderParams(control.Header, control.lstParameters);
     // A trace of a mode without a name is saved as its header alone.
     const ModeRow* row = control.Families.FindMode(control.Header.Mode);

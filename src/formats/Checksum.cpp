@@ -46,6 +46,11 @@ std::uint32_t UpdateCrc(std::uint32_t crc, std::string_view bytes)
 
 } // namespace
 
+std::uint32_t Crc32(std::string_view bytes)
+{
+    return UpdateCrc(0xFFFFFFFF, bytes) ^ 0xFFFFFFFF;
+}
+
 std::size_t FindChecksumField(std::string_view text)
 {
     const std::size_t key = text.find(ChecksumKey);

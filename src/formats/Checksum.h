@@ -18,6 +18,9 @@ inline constexpr std::string_view EmptyChecksumLine = "CHECKSUM=0000000000\r\n";
 inline constexpr std::string_view SaveChecksumKey = "Corvane#1";
 inline constexpr std::string_view VerifyChecksumKey = "CORVANE#1";
 
+/// CRC-32 (IEEE 802.3).
+std::uint32_t Crc32(std::string_view bytes);
+
 /// Place of the 10 characters behind "CHECKSUM=", npos when it is absent or fewer are left.
 std::size_t FindChecksumField(std::string_view text);
 

@@ -17,6 +17,9 @@ inline constexpr std::uint8_t RLFrequency = 0, SWRFrequency = 1, CableLossFreque
 
 /// A mode without a name that text files alone bring: the VNA view draws it, no raw buffer decodes.
 inline constexpr std::uint8_t VNAUnnamed = 7;
+
+/// One sweep of a spectrogram, the map's other picture. No trace has it.
+inline constexpr std::uint8_t SpectrogramSweep = 89;
 } // namespace TraceMode
 
 /// What the save dialog offers for a mode; all empty for a mode without a filter of its own.

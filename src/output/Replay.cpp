@@ -1,6 +1,7 @@
 #include "output/Replay.h"
 
 #include "control/Control.h"
+#include "output/CellImage.h"
 
 #include <algorithm>
 #include <cmath>
@@ -74,6 +75,16 @@ public:
         FlushLines();
         canvas.Circle(Map(command.Centre), static_cast<double>(command.Radius) * std::abs(stretchX),
                       command.Ink, command.Fill);
+    }
+
+    void operator()(const ImageCommand& command)
+    {
+        FlushLines();
+        const DeviceRect visible = {place.Left, place.Top, place.Left + place.Width,
+                                    place.Top + place.Height};
+        const ShownCells shown = CellsWithin(visible, command.Cells, Map(command.From), Map(command.To));
+        if (shown.Cells.IsWhole())
+            canvas.Image(shown.Place, shown.Cells);
     }
 
     void operator()(const TextCommand& command)

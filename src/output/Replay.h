@@ -38,6 +38,9 @@ public:
     /// without antialiasing.
     virtual void Polyline(std::span<const DevicePoint> points, const Pen& pen, bool crisp) = 0;
 
+    /// A whole grid of cells, the first row on top; neighbours share no pixel and leave none out.
+    virtual void Image(const DeviceRect& rect, const ColourCells& cells) = 0;
+
     /// `fill` is NoColour for an outline alone.
     virtual void Circle(DevicePoint centre, double radius, Colour ink, Colour fill) = 0;
 

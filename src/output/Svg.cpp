@@ -1,6 +1,7 @@
 #include "output/Svg.h"
 
 #include "control/Control.h"
+#include "output/CellImage.h"
 #include "output/Replay.h"
 #include "output/ScreenText.h"
 
@@ -108,6 +109,15 @@ public:
         AppendAttribute("r", radius);
         Body += " stroke=\"" + ColourText(ink) + "\" fill=\"" +
                 (fill == NoColour ? "none" : ColourText(fill)) + "\"/>\n";
+    }
+
+    void Image(const DeviceRect& rect, const ColourCells& cells) override
+    {
+        Body += "<image";
+        AppendRect(rect);
+        Body += " preserveAspectRatio=\"none\" image-rendering=\"pixelated\""
+                " xmlns:xlink=\"http://www.w3.org/1999/xlink\" xlink:href=\"data:image/png;base64," +
+                Base64(PalettePng(cells)) + "\"/>\n";
     }
 
     void Text(DevicePoint topLeft, std::string_view text, const Font& font, double pixels,

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QGlyphRun>
+#include <QImage>
 #include <QPaintDevice>
 #include <QPainter>
 
@@ -108,6 +109,21 @@ void PainterCanvas::Polyline(std::span<const DevicePoint> points, const Pen& pen
     if (crisp)
         CoverEndPixels(places);
     painter.drawPolyline(places.data(), static_cast<int>(places.size()));
+}
+
+void PainterCanvas::Image(const DeviceRect& rect, const ColourCells& cells)
+{
+    QList<QRgb> palette;
+    for (const Colour colour : cells.Palette)
+        palette.push_back(ScreenColour(colour).rgb());
+    // A place beyond the palette takes its last colour.
+    palette.resize(256, palette.back());
+    QImage image(cells.Places.data(), cells.Columns, cells.Rows, cells.Columns, QImage::Format_Indexed8);
+    image.setColorTable(palette);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.drawImage(QRectF(DrawnPoint({rect.Left, rect.Top}), DrawnPoint({rect.Right, rect.Bottom})),
+                      image);
 }
 
 void PainterCanvas::Circle(DevicePoint centre, double radius, Colour ink, Colour fill)

@@ -29,6 +29,7 @@ public:
     void Fill(const DeviceRect& rect, Colour colour) override;
     void Outline(const DeviceRect& rect, const Pen& pen) override;
     void Polyline(std::span<const DevicePoint> points, const Pen& pen, bool crisp) override;
+    void Image(const DeviceRect& rect, const ColourCells& cells) override;
     void Circle(DevicePoint centre, double radius, Colour ink, Colour fill) override;
     void Text(DevicePoint topLeft, std::string_view text, const Font& font, double pixels,
               Colour ink) override;

@@ -233,6 +233,7 @@ TEST_F(ScriptCalls, DrawPrintsEveryFieldOfEveryCommand)
     box.Box(1, 2, 3, 4, 0xFFFF);
     box.FillBox(5, 6, 7, 8, 9);
     box.Circle(1, 1, 2, 3);
+    box.Image(1, 2, 3, 4, {2, 1, {0, 0xAB}, {White, 7}});
     box.AutoRedraw = false;
     box.FillTransparent = false;
     box.FillColor = 77;
@@ -244,7 +245,7 @@ TEST_F(ScriptCalls, DrawPrintsEveryFieldOfEveryCommand)
     box.Print("\xB5\"A");
     const Json dump = ResultOf("Draw VNABox")[0];
     EXPECT_EQ(dump["picture"], Json::parse(R"([["Scale",1,2,10,-20],["Line",1,2,3,4.5,255,2,2],
-        ["Box",1,2,3,4,65535,1,2],["Fill",5,6,7,8,9],["Circle",1,1,2,3,-1]])"));
+        ["Box",1,2,3,4,65535,1,2],["Fill",5,6,7,8,9],["Circle",1,1,2,3,-1],["Image",1,2,3,4,2,1,[16777215,7],"00ab"]])"));
     EXPECT_EQ(dump["overlay"], Json::parse(R"([["Scale",1,2,10,-20],["Circle",1,1,2,3,77],
         ["Text",4,-4,"µ\"A",12.5,-1,-1,16777215,"Symbol"]])"));
 }

@@ -3,6 +3,7 @@
 #include "control/Plot.h"
 #include "formats/Files.h"
 #include "modes/vna_spa/VNATrace.h"
+#include "support/ExpectFrame.h"
 #include "support/Faults.h"
 #include "support/RawBuilder.h"
 #include "support/TraceFiles.h"
@@ -12,6 +13,7 @@
 namespace Traces {
 namespace {
 
+using Testing::ExpectFrame;
 using Testing::FaultOf;
 using Testing::RawBuilder;
 using Testing::RawSweep;
@@ -33,15 +35,6 @@ void PutSweepSettings(RawBuilder& frame)
     for (int k = 0; k < 5; ++k)
         frame.Number(182 + k, 1, 31 + k);
     frame.Number(187, 2, 49);
-}
-
-/// Reports the first differing position, which says which field it is.
-void ExpectFrame(const std::string& frame, const RawBuilder& expected)
-{
-    const std::string wanted = expected.AsText();
-    ASSERT_EQ(frame.size(), wanted.size());
-    for (std::size_t i = 0; i < frame.size(); ++i)
-        ASSERT_EQ(static_cast<int>(frame[i]), static_cast<int>(wanted[i])) << "position " << i + 1;
 }
 
 class VNAUpload : public testing::Test {

@@ -46,6 +46,23 @@ TEST(PainterCanvas, CrispLinesTakeWholePixelsFromEndToEnd)
     }
 }
 
+TEST(PainterCanvas, CellsFillTheirPixelsWithoutBlending)
+{
+    Paper paper(QSize(12, 6), 1);
+    const ColourCells cells = {3, 2, {0, 1, 0, 9, 0, 1}, {White, Red}};
+    paper.Draw([&](Canvas& canvas) { canvas.Image({2, 1, 8, 5}, cells); });
+    EXPECT_EQ(paper.Row(0), "............");
+    EXPECT_EQ(paper.Row(1), "....##......");
+    EXPECT_EQ(paper.Row(2), "....##......");
+    EXPECT_EQ(paper.Row(3), "..##..##....") << "a place beyond the palette takes its last colour";
+    EXPECT_EQ(paper.Row(4), "..##..##....");
+    EXPECT_EQ(paper.Row(5), "............");
+    // Places between pixels: no cell is lost or blurred.
+    paper.Draw([&](Canvas& canvas) { canvas.Image({2.3, 1.4, 8.4, 4.6}, cells); });
+    for (int y = 0; y < 6; ++y)
+        EXPECT_EQ(paper.Row(y).find('?'), std::string::npos) << y;
+}
+
 TEST(PainterCanvas, CrispLinesIncludeBothEndsInEveryDirection)
 {
     struct Case {

@@ -1,5 +1,7 @@
 #include "qt/Png.h"
 
+#include "output/CellImage.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <functional>
@@ -27,6 +29,22 @@ int WorstDifference(const QImage& a, const QImage& b)
                               std::abs(qBlue(one) - qBlue(other))});
         }
     return worst;
+}
+
+TEST(Png, TheCoresOwnFilesAreReadByOthers)
+{
+    // More pixels than one stored block holds.
+    ColourCells cells = {401, 200, {}, {}};
+    for (int i = 0; i < 256; ++i)
+        cells.Palette.push_back(RGB(i, 255 - i, i / 2));
+    for (int i = 0; i < 401 * 200; ++i)
+        cells.Places.push_back(static_cast<std::uint8_t>(i * 7));
+    const QImage image = Decoded(PalettePng(cells));
+    ASSERT_EQ(image.size(), QSize(401, 200));
+    for (int i = 0; i < 401 * 200; i += 13) {
+        const int place = i * 7 & 0xFF;
+        EXPECT_EQ(image.pixel(i % 401, i / 401), qRgb(place, 255 - place, place / 2)) << i;
+    }
 }
 
 TEST(Png, KeepsEveryPixelWithinThePalettesTolerance)

@@ -31,14 +31,25 @@ float SweepPhaseOf(const Control& control, std::size_t point)
     return point < control.VNA.PointPhase.size() ? control.VNA.PointPhase[point] : 0;
 }
 
+/// The chart numbers its bars; the record tells their channels.
+float ChannelFrequencyOf(const Control& control, std::size_t point)
+{
+    return point < control.CS.Channel.size() ? control.CS.Channel[point].Frequency : 0;
+}
+
+float ChannelNumberOf(const Control& control, std::size_t point)
+{
+    return point < control.CS.Channel.size() ? control.CS.Channel[point].Number : 0;
+}
+
 /// What a curve's value says of the reflection.
 enum class Reflection { None, Decibels, Swr };
 
 struct ExportRow {
     std::uint8_t Mode;
-    std::string_view X, Value, Phase; ///< headings with units
+    std::string_view X, Value, Third; ///< headings with units; not all have a third column
     float (*XOf)(const Control& control, std::size_t point);
-    float (*PhaseOf)(const Control& control, std::size_t point);
+    float (*ThirdOf)(const Control& control, std::size_t point);
     Reflection Holds;
 };
 
@@ -49,6 +60,9 @@ constexpr ExportRow Rows[] = {
     {TraceMode::CableLossFrequency, "Frequency (MHz)", "Cable loss (dB)",  "Phase (deg)", FrequencyOf,     SweepPhaseOf, Reflection::None},
     {TraceMode::RLDistance,         "Distance (mm)",   "Return loss (dB)", "Phase (deg)", SweepDistanceOf, SweepPhaseOf, Reflection::None},
     {TraceMode::SWRDistance,        "Distance (mm)",   "SWR",              "Phase (deg)", SweepDistanceOf, SweepPhaseOf, Reflection::None},
+    {TraceMode::Spectrum,           "Frequency (MHz)", "Level (dBm)",      {},            FrequencyOf,     nullptr,      Reflection::None},
+    {TraceMode::ChannelScanner,     "Frequency (MHz)", "Level (dBm)",      "Channel",     ChannelFrequencyOf, ChannelNumberOf, Reflection::None},
+    {TraceMode::Spectrogram,        "Frequency (MHz)", "Level (dBm)",      {},            FrequencyOf,     nullptr,      Reflection::None},
     {TraceMode::VNAUnnamed,         "Frequency (MHz)", "Magnitude (dB)",   "Phase (deg)", FrequencyOf,     SweepPhaseOf, Reflection::None},
 };
 // clang-format on
@@ -118,13 +132,18 @@ Export CsvOf(const Control& control)
     const std::size_t points = UsedPoints(slot);
     if (points == 0)
         return {{}, "has no points", {}};
-    std::string text = Quoted(row->X) + ',' + Quoted(row->Value) + ',' + Quoted(row->Phase) + "\r\n";
+    std::string text = Quoted(row->X) + ',' + Quoted(row->Value);
+    if (row->ThirdOf != nullptr)
+        text += ',' + Quoted(row->Third);
+    text += "\r\n";
     for (std::size_t i = 0; i < points; ++i) {
         AppendNumberText(text, row->XOf(control, i));
         text += ',';
         AppendNumberText(text, slot.Y[i]);
-        text += ',';
-        AppendNumberText(text, row->PhaseOf(control, i));
+        if (row->ThirdOf != nullptr) {
+            text += ',';
+            AppendNumberText(text, row->ThirdOf(control, i));
+        }
         text += "\r\n";
     }
     const auto isZero = [](float value) { return value == 0; };
@@ -155,7 +174,7 @@ Export TouchstoneOf(const Control& control)
         text += ' ';
         AppendNumberText(text, isSwr ? MagnitudeOfSwr(static_cast<double>(slot.Y[i])) : slot.Y[i]);
         text += ' ';
-        AppendNumberText(text, row->PhaseOf(control, i));
+        AppendNumberText(text, row->ThirdOf(control, i));
         text += "\r\n";
     }
     return {std::move(text), {}, {}};

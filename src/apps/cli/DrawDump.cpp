@@ -34,6 +34,14 @@ struct CommandDump {
                      c.Font.Name);
     }
 
+    Json operator()(const ImageCommand& c) const
+    {
+        Json dump = Array(c.Name, c.From.X, c.From.Y, c.To.X, c.To.Y, c.Cells.Columns, c.Cells.Rows);
+        dump.push_back(c.Cells.Palette);
+        dump.push_back(HexText(c.Cells.Places));
+        return dump;
+    }
+
     static Json Stroke(std::string_view name, Point from, Point to, const Pen& pen)
     {
         return Array(name, from.X, from.Y, to.X, to.Y, pen.Ink, static_cast<int>(pen.Style), pen.Width);

@@ -5,7 +5,9 @@
 #include "formats/Text.h"
 
 #include <concepts>
+#include <cstdint>
 #include <nlohmann/json.hpp>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -47,6 +49,19 @@ requires requires(const Values& values)
     for (const typename Values::value_type& value : values)
         list.push_back(ToJson(value));
     return list;
+}
+
+/// Two digits a byte.
+inline std::string HexText(std::span<const std::uint8_t> bytes)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text;
+    text.reserve(2 * bytes.size());
+    for (const std::uint8_t byte : bytes) {
+        text += digits[byte >> 4U];
+        text += digits[byte & 0xFU];
+    }
+    return text;
 }
 
 /// One line. Bytes of file names that are no UTF-8 become replacement characters.

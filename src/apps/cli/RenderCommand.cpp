@@ -67,6 +67,8 @@ std::string Adjust(Control& control, const RenderOptions& options)
         for (const MarkerRequest& request : options.Markers)
             PlaceMarker(control.TraceSlots[0], control.*row->Markers, request);
     }
+    if (options.Zoom && (row == nullptr || row->Markers == nullptr))
+        return "can't be zoomed: " + mode + " is shown whole";
     if (options.Zoom) {
         control.ZoomActive = true;
         control.ZoomX1 = options.Zoom->X1;

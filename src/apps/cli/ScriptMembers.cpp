@@ -60,18 +60,6 @@ Json Saved(std::string filename, Save save)
     return Result(save(filename));
 }
 
-std::string HexText(std::string_view bytes)
-{
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string text;
-    text.reserve(2 * bytes.size());
-    for (const char byte : bytes) {
-        text += digits[static_cast<unsigned char>(byte) >> 4];
-        text += digits[static_cast<unsigned char>(byte) & 0xF];
-    }
-    return text;
-}
-
 Json TextWidth(Script& script, const ScriptValues& values)
 {
     ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
@@ -181,13 +169,16 @@ constexpr ScriptMember Members[] = {
     // Trace files.
     {"loadTextFile",    "name",      [](Script& s, Values v) { s.Plot().loadTextFile(v.Text(0)); return NoResult(); }},
     {"LoadVNAText",     "file",      LoadText<&Plot::LoadVNAText>},
+    {"LoadSPAText",     "file",      LoadText<&Plot::LoadSPAText>},
+    {"LoadCSText",      "file",      LoadText<&Plot::LoadCSText>},
+    {"LoadSpectroText", "file",      LoadText<&Plot::LoadSpectroText>},
     {"LoadRawTrace",    "name",      [](Script& s, Values v) { return Result(s.Plot().LoadRawTrace(v.Text(0))); }},
     {"SaveTrace",       "[name]",    [](Script& s, Values v) { return Saved(NameOrEmpty(v), [&](std::string& name) { return s.Plot().SaveTrace(name); }); }},
     {"SaveRawTrace",    "file name", [](Script& s, Values v) { return Saved(v.Text(1), [&](std::string& name) { return s.Plot().SaveRawTrace(v.Text(0), name); }); }},
     {"SaveRawTraceB",   "file name", [](Script& s, Values v) { return Saved(v.Text(1), [&](std::string& name) { return s.Plot().SaveRawTraceB(v.Text(0), name); }); }},
     // Upload frames.
-    {"GetUpLoadTrace",  "[name]",    [](Script& s, Values v) { return Result(HexText(s.Plot().GetUpLoadTrace(NameOrEmpty(v)))); }},
-    {"GetUpLoadTraceB", "[name]",    [](Script& s, Values v) { return Result(HexText(s.Plot().GetUpLoadTraceB(NameOrEmpty(v)))); }},
+    {"GetUpLoadTrace",  "[name]",    [](Script& s, Values v) { return Result(HexText(Bytes(s.Plot().GetUpLoadTrace(NameOrEmpty(v))))); }},
+    {"GetUpLoadTraceB", "[name]",    [](Script& s, Values v) { return Result(HexText(Bytes(s.Plot().GetUpLoadTraceB(NameOrEmpty(v))))); }},
     // The trace on show.
     {"TraceType",       "",          [](Script& s, Values) { return Result(s.Plot().TraceType()); }},
     {"TraceInfo",       "",          [](Script& s, Values) { return Result(s.Plot().TraceInfo()); }},

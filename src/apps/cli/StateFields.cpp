@@ -70,6 +70,7 @@ constexpr StateField Fields[] = {
     {"GridColor",           Of<&Control::GridColor>},
     {"YScaleTop",           Of<&Control::YScaleTop>},
     {"YScaleBottom",        Of<&Control::YScaleBottom>},
+    {"SpectroSweep",        Of<&Control::SpectroSweep>},
     {"GSMViewMode",         Of<&Control::GSMViewMode>},
     {"CDMAViewMode",        Of<&Control::CDMAViewMode>},
     {"EvDOViewMode",        Of<&Control::EvDOViewMode>},

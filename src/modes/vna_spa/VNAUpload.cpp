@@ -1,10 +1,9 @@
 // The upload frames of a sweep. A field stands 13 bytes below its raw offset.
 #include "control/Control.h"
-#include "formats/FormatValue.h"
 #include "formats/HostFault.h"
-#include "formats/Numbers.h"
 #include "formats/TraceMode.h"
 #include "formats/UploadFrame.h"
+#include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNAFields.h"
 #include "modes/vna_spa/VNATrace.h"
 
@@ -31,20 +30,6 @@ void PutCoordinateTopBytes(UploadFrame& frame, const VNARecord& record)
     frame.Put(latitude, PutU32FromI32(record.GpsLatitude, 1, 0).substr(0, 1));
     frame.Put(longitude, blanks);
     frame.Put(longitude, PutU32FromI32(record.GpsLongitude, 1, 0).substr(0, 1));
-}
-
-/// The text route's points: one value each, under keys that only instruments' own files hold. A file of
-/// this program has none of them and sends the offset for each point.
-void PutNumberedPoints(UploadFrame& frame, const TraceText& text)
-{
-    constexpr int firstPosition = 401;
-    constexpr double scale = 1000;
-    constexpr double offset = 270'000;
-    const auto points = RoundTo<std::int16_t>(ValueOf(text.ParamValue("DataPoints:")));
-    if (!points)
-        throw HostFault(FaultKind::Overflow, "the file's point count doesn't fit its field");
-    for (std::int32_t i = 0; i < *points; ++i)
-        frame.Put(firstPosition + 4 * i, PutU32FromText(text, FormatValue(i + 1, "#0:"), scale, offset));
 }
 
 } // namespace
@@ -76,6 +61,8 @@ std::string EncodeVNAText(std::string_view file)
     PutFrameHeadFromText(frame, modeByte, text);
     frame.Put(4, std::string(4, '\0'));
     EncodeFieldTexts(frame, text, VNAFields, FrameShift);
+    // Under keys that only instruments' own files hold. A file of this program sends the offset for each
+    // point.
     PutNumberedPoints(frame, text);
     return frame.Bytes();
 }

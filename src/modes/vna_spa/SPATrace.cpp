@@ -1,0 +1,148 @@
+#include "modes/vna_spa/SPATrace.h"
+
+#include "chart/SweepCurve.h"
+#include "control/Control.h"
+#include "control/TextLoader.h"
+#include "formats/FormatValue.h"
+#include "formats/Numbers.h"
+#include "formats/Text.h"
+#include "modes/vna_spa/SPAFields.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace Traces {
+
+namespace {
+
+std::size_t PointsInRecord(const Control& control)
+{
+    const int points = std::clamp<int>(control.Header.DataPoints, 0, SPARecord::MaxPoints);
+    return static_cast<std::size_t>(points);
+}
+
+/// "1:", the key of the first point's line.
+std::string PointKey(std::size_t point)
+{
+    return FormatValue(static_cast<std::int32_t>(point + 1), "#0:");
+}
+
+/// Points that the record has no room for are left out.
+void DecodeSPAPoints(Control& control, const RawBuffer& buffer)
+{
+    for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
+        const int offset = SPAFirstPoint + SPAPointBytes * static_cast<int>(i);
+        if (const auto raw = ReadU32(buffer, offset))
+            control.SPA.PointLevel[i] = static_cast<float>(*raw / SPALevelScale + SPALevelBias);
+    }
+}
+
+void LoadSPAPoints(Control& control, const TraceText& text)
+{
+    for (std::size_t i = 0; i < PointsInRecord(control); ++i)
+        LoadField(text.ParamValue(PointKey(i)), &control.SPA.PointLevel[i], Through::FieldType);
+}
+
+/// Loaders take these two through a byte: a name leaves the field as it was, and a number comes back as its
+/// text.
+void LoadCodeName(const TraceText& text, std::string_view key, const std::string& before, std::string& field)
+{
+    const auto code = StrictNumber<std::uint8_t>(text.ParamValue(key));
+    field = code ? NumberText(std::int32_t{*code}) : before;
+}
+
+/// And these two through a 32-bit float, which keeps seven digits.
+void LoadCoordinate(const TraceText& text, std::string_view key, std::int32_t before, std::int32_t& field)
+{
+    field = before;
+    LoadField(text.ParamValue(key), &field, Through::Float);
+}
+
+} // namespace
+
+void DecodeSPARecord(Control& control, const RawBuffer& buffer)
+{
+    SPARecord& record = control.SPA;
+    DecodeFields(buffer, record, SPAFields);
+    // Instruments' software reads this field from the first two bytes of the sweep time, not from its own
+    // place: what hosts have shown and saved all along is that.
+    constexpr int sweepTime = 323;
+    DecodeField(buffer, {sweepTime, Read::I16, 1000}, &record.ImpedenceLoss);
+    DecodeSPAPoints(control, buffer);
+}
+
+void DecodeSPATrace(Control& control, const RawBuffer& buffer)
+{
+    DecodeSPARecord(control, buffer);
+    SPAParams(control, control.lstParameters);
+    control.TraceSaved = false;
+}
+
+void SPAParams(const Control& control, ParameterList& lines)
+{
+    const SPARecord& record = control.SPA;
+    for (const auto& field : SPAFields) {
+        if (field.Key == "Channel Selection:")
+            lines.AddLine(field.Key, NumberOrNA(record.ChannelSelection));
+        else
+            AddParamLine(lines, field.Key, field.Member.In(record));
+    }
+    for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
+        std::string& line = lines.BeginLine();
+        line += PointKey(i);
+        line += '\t';
+        AppendNumberText(line, record.PointLevel[i]);
+        lines.EndLine();
+    }
+}
+
+void FillSPACurve(Control& control)
+{
+    const SPARecord& record = control.SPA;
+    FillSweepCurve(control, record.StartFreq, record.StopFreq, record.PointLevel);
+    control.YScaleTop = record.RefLevel;
+    // Ten divisions below 0 dBm: the reference level takes no part in it.
+    control.YScaleBottom = record.ScaleDiv * -10;
+}
+
+void LoadSPARecord(Control& control, const TraceText& text)
+{
+    SPARecord& record = control.SPA;
+    const SPARecord before = record;
+    LoadFields(text, record, SPAFields, Through::FieldType);
+    // Of the limits a load takes the first two upper ones alone; the others keep what they held.
+    constexpr std::ptrdiff_t loadedLimitPoints = 8;
+    std::copy(before.LimitPoints.begin() + loadedLimitPoints, before.LimitPoints.end(),
+              record.LimitPoints.begin() + loadedLimitPoints);
+    // A text without a value keeps what it held as a number does.
+    constexpr std::size_t antennaWidth = 16;
+    record.AntennaName =
+        record.AntennaName.empty() ? before.AntennaName : FixedText(record.AntennaName, antennaWidth);
+    if (record.SignalStandard.empty())
+        record.SignalStandard = before.SignalStandard;
+    LoadCodeName(text, "Interference Analysis Cell Standard", before.InterferenceStandard,
+                 record.InterferenceStandard);
+    LoadCodeName(text, "Trigger Type", before.TriggerType, record.TriggerType);
+    LoadCoordinate(text, "GPS Latitude", before.GpsLatitude, record.GpsLatitude);
+    LoadCoordinate(text, "GPS Longitude", before.GpsLongitude, record.GpsLongitude);
+    LoadSPAPoints(control, text);
+}
+
+GpsFix SPAPosition(const Control& control)
+{
+    return {control.SPA.GpsLatitude, control.SPA.GpsLongitude, control.SPA.GpsAltitude, std::nullopt};
+}
+
+void LoadSPAText(Control& control, std::string_view text, const std::string& path)
+{
+    const auto traceText = BeginTextLoad(control, text, path);
+    if (!traceText)
+        return;
+    LoadSPARecord(control, *traceText);
+    const SPARecord& record = control.SPA;
+    FillWhatFits(control, record.StartFreq, record.StopFreq, record.PointLevel);
+    SPAParams(control, control.lstParameters);
+    EndTextLoad(control);
+}
+
+} // namespace Traces

@@ -1,0 +1,248 @@
+#include "modes/vna_spa/SPATrace.h"
+
+#include "control/Control.h"
+#include "control/HeadlessPlatform.h"
+#include "control/Plot.h"
+#include "formats/Files.h"
+#include "support/ExpectFrame.h"
+#include "support/Faults.h"
+#include "support/RawSpectra.h"
+#include "support/TraceFiles.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace Traces {
+namespace {
+
+using Testing::ExpectFrame;
+using Testing::FaultOf;
+using Testing::RawBuilder;
+using Testing::RawLevel;
+using Testing::RawSpectrum;
+using Testing::WithChecksum;
+
+class SPATrace : public testing::Test {
+protected:
+    HeadlessPlatform platform;
+    Plot plot{platform};
+    Control& state = plot.Instance();
+
+    void Load(const std::string& lines) { plot.LoadSPAText(WithChecksum(lines), {}); }
+};
+
+TEST_F(SPATrace, ListsEveryFieldInTheOrderOfTheLayout)
+{
+    ASSERT_TRUE(plot.ShowTrace(RawSpectrum({-62.2, -48.5}).Bytes()));
+    const auto lines = plot.Parameters();
+    ASSERT_EQ(lines.size(), 8U + 95 + 2);
+    const std::vector<std::string> head = {
+        "Start Frequency:\t925", "Stop Frequency:\t960.5",      "Center Freq:\t942.75",
+        "Freq Span:\t35.5",      "Min Freq Step Size:\t0.0125", "Ref Level:\t-20",
+        "Scale/Div:\t10",        "Freq Marker 1:\t301",         "Freq Marker 2:\t302",
+        "Freq Marker 3:\t303",   "Freq Marker 4:\t304",         "Freq Marker 5:\t305",
+        "Freq Marker 6:\t306",   "Single Limit:\t-60",          "Mult Upper Limit 1 Start X:\t930"};
+    for (std::size_t i = 0; i < head.size(); ++i)
+        EXPECT_EQ(lines[8 + i], head[i]);
+    // Seven of the limits' forty: the kinds turn over in fours, then in twenties.
+    EXPECT_EQ(lines[23], "Mult Upper Limit 1 Start Y:\t-50");
+    EXPECT_EQ(lines[24], "Mult Upper Limit 1 End X:\t931");
+    EXPECT_EQ(lines[26], "Mult Upper Limit 2 Start X:\t932");
+    EXPECT_EQ(lines[41], "Mult Upper Limit 5 End Y:\t-59");
+    EXPECT_EQ(lines[42], "Mult Lower Limit 1 Start X:\t940");
+    EXPECT_EQ(lines[60], "Mult Lower Limit 5 End X:\t949");
+    const std::vector<std::string> tail = {
+        "Mult Lower Limit 5 End Y:\t-69", "RBW Setting:\t30000", "VBW Setting:\t10000", "OCC BW Method:\t1",
+        "OCC BW Percent:\t99", "OCC BW dBc:\t26", "Attenuation:\t15", "Antenna Name:\tYAGI 900        ",
+        "Status Byte 1:\t41", "Status Byte 2:\t42", "Status Byte 3:\t43", "Status Byte 4:\t44",
+        "Status Byte 5:\t45", "Status Byte 6:\t46", "Status Byte 7:\t47", "Ref Level Offset:\t3.5",
+        "External Ref Freq:\t2", "Signal Standard:\tGSM 900", "Channel Selection:\t62",
+        "Interference Analysis Cell Standard:\tGSM", "Interference Analysis Cell Bandwidth:\t0.2",
+        "Interference Analysis Frequency:\t947.5", "Trigger Type:\tVideo", "Trigger Position:\t50",
+        "Min Sweep Time:\t200000000", "Video Trigger Level:\t-35", "Status Byte 8:\t8", "Impedence:\t1",
+        // 200,000,000 begins with the bytes 0B EB, which are 3051; the field's own place holds 5700
+        "Impedence Loss:\t3", "Freq Scale Factor:\t-3", "Freq Range Min:\t0.1", "Freq Range Max:\t3000",
+        "Linked Trace Number:\t4", "Status Byte 9:\t9", "CI Calc Power NB FHSS:\t-41",
+        "CI Calc Power WB FHSS:\t-42", "CI Calc Power Broadband:\t-43", "Occupied Bandwidth Power:\t-44.25",
+        "Marker Type:\t3", "GPS Latitude:\t40250170", "GPS Longitude:\t-3422250", "GPS Altitude:\t667",
+        "1:\t-62.2", "2:\t-48.5"};
+    for (std::size_t i = 0; i < tail.size(); ++i)
+        EXPECT_EQ(lines[lines.size() - tail.size() + i], tail[i]);
+    EXPECT_EQ(plot.TraceType(), "SPA");
+}
+
+TEST_F(SPATrace, LevelsCarryTheirBiasAndAnAbsentChannelReadsNA)
+{
+    RawBuilder raw = RawSpectrum({-62.2, -48.5});
+    raw.Number(77, 4, 0).Number(97, 4, -500).Number(306, 2, -1).Number(304, 2, 0).Number(321, 1, 0xAB);
+    ASSERT_TRUE(plot.ShowTrace(raw.Bytes()));
+    EXPECT_EQ(state.SPA.RefLevel, -270);
+    EXPECT_EQ(state.SPA.SingleLimit, -270) << "-270.5, halves to even";
+    EXPECT_EQ(state.SPA.TriggerType, "Unknown(ABh)");
+    const auto lines = plot.Parameters();
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "Channel Selection:\tN/A"), lines.end());
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "Signal Standard:\tN/A"), lines.end());
+}
+
+TEST_F(SPATrace, FillsTheCurveAndTheLimits)
+{
+    ASSERT_TRUE(plot.ShowTrace(RawSpectrum({-62.2, -48.5, -70}).Bytes()));
+    EXPECT_EQ(state.TraceSlots[0].X, (std::vector<float>{925, 942.75F, 960.5F}));
+    EXPECT_EQ(state.TraceSlots[0].Y, (std::vector<float>{-62.2F, -48.5F, -70}));
+    EXPECT_EQ(state.YScaleTop, -20);
+    EXPECT_EQ(state.YScaleBottom, -100) << "not -120: the reference level takes no part in it";
+    EXPECT_EQ(plot.GPSLocation().substr(0, 17), "GPS Latitude:\tN40");
+
+    struct Case {
+        std::size_t points;
+        std::optional<FaultKind> fault;
+    };
+    static constexpr Case cases[] = {
+        {0, FaultKind::Range}, {1, FaultKind::DivisionByZero}, {402, {}}, {403, FaultKind::Range}};
+    for (const auto& c : cases) {
+        const RawBuilder raw = RawSpectrum(std::vector<double>(c.points, -50));
+        EXPECT_EQ(FaultOf([&] { plot.ShowTrace(raw.Bytes()); }), c.fault) << c.points;
+        EXPECT_EQ(state.TraceSlots[0].Length, c.points) << c.points;
+    }
+}
+
+TEST_F(SPATrace, ALoadKeepsWhatTheFileDoesNotGive)
+{
+    ASSERT_TRUE(plot.ShowTrace(RawSpectrum({-62.2, -48.5}).Bytes()));
+    Load("Mode:\tSpectrum Analyzer Mode\r\nDataPoints:\t500\r\nStart Frequency:\tnear\r\nRef Level:\t-10\r\n"
+         "Single Limit:\t-7.5\r\nFreq Marker 1:\t40000\r\nMult Upper Limit 2 End Y:\t-1.5\r\n"
+         "Mult Upper Limit 3 Start X:\t1\r\nMult Lower Limit 5 End Y:\t2\r\nAntenna Name:\t\r\n"
+         "Signal Standard:\tGSM 1800\r\nChannel Selection:\tN/A\r\nTrigger Type:\tExternal\r\n"
+         "Interference Analysis Cell Standard:\t3\r\nGPS Latitude:\t40250171\r\n2:\t-12.5\r\n402:\t-13\r\n");
+    EXPECT_EQ(state.SPA.StartFreq, 925);
+    EXPECT_EQ(state.SPA.RefLevel, -10);
+    EXPECT_EQ(state.SPA.SingleLimit, -8);
+    EXPECT_EQ(state.SPA.FreqMarker[0], 301) << "doesn't fit";
+    EXPECT_EQ(state.SPA.LimitPoints[7], -1.5F) << "the last that is read";
+    EXPECT_EQ(state.SPA.LimitPoints[8], 934) << "the first that isn't";
+    EXPECT_EQ(state.SPA.LimitPoints[39], -69);
+    EXPECT_EQ(state.SPA.AntennaName, "YAGI 900        ");
+    EXPECT_EQ(state.SPA.SignalStandard, "GSM 1800");
+    EXPECT_EQ(state.SPA.ChannelSelection, 62);
+    EXPECT_EQ(state.SPA.TriggerType, "Video") << "a name is no number";
+    EXPECT_EQ(state.SPA.InterferenceStandard, "3") << "a number comes back as its text";
+    EXPECT_EQ(state.SPA.GpsLatitude, 40250172) << "through a 32-bit float";
+    EXPECT_EQ(state.SPA.PointLevel[0], -62.2F);
+    EXPECT_EQ(state.SPA.PointLevel[1], -12.5F);
+    EXPECT_EQ(state.TraceSlots[0].Y[401], -13);
+    EXPECT_EQ(plot.count(), 500) << "402 levels are taken, the rest is passed over";
+    EXPECT_EQ(plot.Parameters().size(), 8U + 95 + 402) << "a spectrum's loader lists the record";
+    EXPECT_EQ(state.CurrentMode, 48);
+    Load("Antenna Name:\tA\r\nGPS Longitude:\t1E30\r\n");
+    EXPECT_EQ(state.SPA.AntennaName, "A               ");
+    EXPECT_EQ(state.SPA.GpsLongitude, -3'422'250);
+}
+
+TEST_F(SPATrace, SaveLoadAndSaveGiveTheSameFile)
+{
+    const Testing::TemporaryFolder folder;
+    RawBuilder raw = RawSpectrum({-62.2, -48.5, -70.125});
+    raw.Number(364, 4, 4'025'017); // 7 digits survive the float that loaders go through
+    std::string first = folder / "first.spa";
+    ASSERT_TRUE(plot.SaveRawTrace(raw.AsText(), first));
+    plot.loadTextFile(first);
+    EXPECT_TRUE(platform.Messages.empty());
+    const std::vector<std::string> lines = plot.Parameters();
+    std::string second = folder / "second";
+    state.TraceSaved = true;
+    ASSERT_TRUE(plot.SaveTrace(second));
+    EXPECT_EQ(second, folder / "second.SPA");
+    EXPECT_EQ(ReadWholeFile(first), ReadWholeFile(second));
+    EXPECT_EQ(plot.Parameters(), lines);
+
+    Plot fresh(platform);
+    fresh.loadTextFile(first);
+    EXPECT_EQ(fresh.Instance().SPA.LimitPoints[7], -53) << "the fourth limit point";
+    EXPECT_EQ(fresh.Instance().SPA.LimitPoints[8], 0) << "the file's other limits aren't read";
+    EXPECT_EQ(fresh.Instance().SPA.TriggerType, "");
+}
+
+/// The frame that all three routes send, up to the points.
+RawBuilder ExpectedFrame()
+{
+    RawBuilder frame(2004, ' ');
+    frame.Number(1, 2, 2004).Number(3, 1, 48).Number(42, 2, 2);
+    frame.Text(8, "11/22/2026").Text(18, "10:20:30").Text(26, "TOWER7");
+    frame.Number(44, 4, 925'000'000).Number(48, 4, 960'500'000).Number(52, 4, 942'750'000);
+    frame.Number(56, 4, 35'500'000).Number(60, 4, 250'000).Number(64, 4, 10'000).Number(80, 4, 210'000);
+    for (int k = 0; k < 6; ++k)
+        frame.Number(68 + 2 * k, 2, 301 + k);
+    for (int p = 0; p < 20; ++p)
+        frame.Number(84 + 8 * p, 4, 930'000'000 + 1'000'000 * p).Number(88 + 8 * p, 4, RawLevel(-50 - p));
+    frame.Number(244, 4, 30'000).Number(248, 4, 10'000);
+    frame.Number(252, 1, 1).Number(253, 1, 99).Number(254, 1, 26);
+    frame.Number(255, 4, 15'000).Text(259, "YAGI 900        ");
+    for (int k = 0; k < 7; ++k)
+        frame.Number(275 + k, 1, 41 + k);
+    frame.Number(282, 4, 273'500).Number(286, 1, 2).Number(287, 2, 49).Number(289, 2, 62);
+    frame.Number(291, 1, 1).Number(292, 4, 200'000).Number(296, 4, 947'500'000);
+    frame.Number(304, 1, 2).Number(305, 1, 50).Number(306, 4, 200'000'000).Number(310, 4, 235'000);
+    frame.Number(314, 1, 8).Number(315, 1, 1).Number(316, 2, 3'000).Number(318, 2, -3);
+    frame.Number(320, 4, 100'000).Number(324, 4, 3'000'000'000).Number(328, 1, 4).Number(329, 1, 9);
+    frame.Number(330, 4, 229'000).Number(334, 4, 228'000).Number(338, 4, 227'000).Number(342, 1, 3);
+    return frame.Number(401, 4, RawLevel(-62.2)).Number(405, 4, RawLevel(-48.5));
+}
+
+TEST_F(SPATrace, TheRecordRouteWritesTheDecodedFieldsBack)
+{
+    RawBuilder raw = RawSpectrum({-62.2, -48.5});
+    raw.Number(97, 4, RawLevel(-60)); // whole, as the record keeps it
+    ASSERT_TRUE(plot.ShowTrace(raw.Bytes()));
+    RawBuilder expected = ExpectedFrame();
+    for (int at = 4; at < 42; ++at)
+        expected.Number(at, 1, 0);
+    expected.Text(8, "11/22/2026").Text(18, "10:20:30").Text(26, "TOWER7");
+    ExpectFrame(plot.GetUpLoadTrace(""), expected);
+    state.Header.DataPoints = 402;
+    EXPECT_EQ(FaultOf([&] { plot.GetUpLoadTrace(""); }), FaultKind::Range) << "behind the frame's end";
+}
+
+TEST_F(SPATrace, TheTextRouteMissesThreeKeysOfOurOwnFiles)
+{
+    RawBuilder raw = RawSpectrum({-62.2, -48.5});
+    raw.Number(97, 4, RawLevel(-60));
+    ASSERT_TRUE(plot.ShowTrace(raw.Bytes()));
+    std::string text = "CHECKSUM=0000000000\r\n";
+    for (const auto& line : plot.ParametersToSave())
+        text += line + "\r\n";
+    RawBuilder expected = ExpectedFrame();
+    expected.Number(52, 4, 0).Number(56, 4, 0).Number(292, 4, 0);
+    ExpectFrame(EncodeSPAText(text), expected);
+    text += "Center Frequency:\t942.75\r\nFrequency Span:\t35.5\r\n"
+            "Interference Analysis Estimated Bandwidth:\t0.2\r\n";
+    ExpectFrame(EncodeSPAText(text), ExpectedFrame());
+
+    const std::string odd = EncodeSPAText("\r\nChannel Selection:\tN/A\r\nImpedence:\t120 Ohm\r\n");
+    EXPECT_EQ(odd.substr(288, 2), "\xFF\xFF");
+    EXPECT_EQ(odd[314], 2) << "by the impedances' names";
+    EXPECT_EQ(EncodeSPAText("\r\nImpedence:\t300 Ohm\r\n")[314], 0);
+    EXPECT_EQ(odd.substr(3, 4), "    ") << "no zeros in this route's head";
+    EXPECT_EQ(FaultOf([] { EncodeSPAText("\r\nDataPoints:\t402\r\n"); }), FaultKind::Range);
+}
+
+TEST_F(SPATrace, TheRawRouteMovesBytesAndLeavesACopy)
+{
+    const Testing::TemporaryFolder folder;
+    const auto home = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path());
+    RawBuilder expected = ExpectedFrame();
+    expected.Number(4, 4, 0x01020304).Text(26, std::string("TOWER7") + std::string(10, '\0'));
+    expected.Number(80, 4, 209'600).Number(316, 2, 5'700); // as the file has them
+    const std::string raw = RawSpectrum({-62.2, -48.5}).AsText();
+    ASSERT_TRUE(WriteWholeFile("a.raw", raw));
+    const std::string frame = plot.GetUpLoadTrace("a.raw");
+    EXPECT_EQ(ReadWholeFile("Up.dmp"), frame);
+    std::filesystem::remove("Up.dmp");
+    std::filesystem::create_directory("Up.dmp");
+    EXPECT_EQ(FaultOf([&] { EncodeSPARaw(raw); }), FaultKind::FileAccess);
+    std::filesystem::current_path(home);
+    ExpectFrame(frame, expected);
+}
+
+} // namespace
+} // namespace Traces
