@@ -20,10 +20,12 @@ endfunction()
 
 traces_install_library(Traces "formats;control;chart;modes;output")
 if(TARGET TracesQt)
-    # The modules of Qt 6 that the layer's users link with it.
-    set(TRACES_QT_MODULES Widgets)
     set_target_properties(TracesQt PROPERTIES EXPORT_NAME Qt)
     traces_install_library(TracesQt "qt")
+endif()
+if(TARGET TracesWidgets)
+    set_target_properties(TracesWidgets PROPERTIES EXPORT_NAME Widgets)
+    traces_install_library(TracesWidgets "") # its headers lie below those of the Qt layer
 endif()
 
 foreach(program traces traces-viewer)

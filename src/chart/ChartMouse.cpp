@@ -141,6 +141,13 @@ const ChartBox* FindChartBox(const Control& control, const ChartSurface& surface
     return found == ChartBoxes.end() ? nullptr : &*found;
 }
 
+const ChartBox* ShownChartBox(const Control& control)
+{
+    const auto found = std::find_if(ChartBoxes.begin(), ChartBoxes.end(),
+                                    [&](const ChartBox& chart) { return (control.*chart.Box).IsShown(); });
+    return found == ChartBoxes.end() ? nullptr : &*found;
+}
+
 void ToggleZoomMode(Control& control, const ChartBox& chart)
 {
     ChartSurface& box = control.*chart.Box;

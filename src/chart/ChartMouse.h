@@ -23,6 +23,9 @@ struct ChartBox {
 /// The row of a surface; null for one that is no chart box.
 const ChartBox* FindChartBox(const Control& control, const ChartSurface& surface);
 
+/// The row of the chart box on show; null when none is.
+const ChartBox* ShownChartBox(const Control& control);
+
 /// Turns zoom mode on or off, without a redraw.
 void ToggleZoomMode(Control& control, const ChartBox& chart);
 

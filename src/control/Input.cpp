@@ -71,12 +71,23 @@ bool OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* cha
     return true;
 }
 
+/// Keys go where the mouse was last pressed, as long as it is shown.
+ChartSurface& KeySurface(Control& control)
+{
+    return control.Focused != nullptr && control.Focused->IsShown() ? *control.Focused : control.Surface;
+}
+
 } // namespace
 
 void MouseDown(Control& control, ChartSurface& surface, int button, int shift, float x, float y)
 {
     const ChartBox* chart = FindChartBox(control, surface);
+    const LifeWatch life(control);
     const bool opened = button == MouseButton::Right && OpenMenu(control, surface, chart);
+    if (life.Gone())
+        return;
+    if (opened)
+        control.Captured = nullptr; // The menu has taken the mouse, and the release with it.
     if (chart != nullptr) {
         if (!opened)
             ChartMouseDown(control, *chart, x, y);
@@ -85,6 +96,8 @@ void MouseDown(Control& control, ChartSurface& surface, int button, int shift, f
         control.ZoomY1 = y;
     } else if (&surface == &control.Surface && control.Events != nullptr) {
         control.Events->MouseDown(button, shift, x, y);
+        if (life.Gone())
+            return;
     }
     control.Platform.Repaint();
 }
@@ -100,8 +113,10 @@ void MouseUp(Control& control, ChartSurface& surface, int button, int shift, flo
     if (const ChartBox* chart = FindChartBox(control, surface)) {
         ChartMouseUp(control, *chart, button, x, y);
     } else if (&surface == &control.Surface && control.Events != nullptr) {
+        const LifeWatch life(control);
         control.Events->MouseUp(button, shift, x, y);
-        control.Events->Click();
+        if (!life.Gone() && control.Events != nullptr)
+            control.Events->Click();
     }
 }
 
@@ -123,10 +138,23 @@ void KeyDown(Control& control, ChartSurface& surface, int keyCode, int shift)
         control.Events->KeyDown(keyCode, shift);
 }
 
+void KeyPress(Control& control, ChartSurface& surface, int keyAscii)
+{
+    if (&surface == &control.Surface && control.Events != nullptr)
+        control.Events->KeyPress(keyAscii);
+}
+
+void KeyUp(Control& control, ChartSurface& surface, int keyCode, int shift)
+{
+    if (&surface == &control.Surface && control.Events != nullptr)
+        control.Events->KeyUp(keyCode, shift);
+}
+
 void DevicePress(Control& control, int button, int shift, double x, double y)
 {
     ChartSurface& surface = control.Captured != nullptr ? *control.Captured : SurfaceAt(control, x, y);
     control.Captured = &surface;
+    control.Focused = &surface;
     const Point at = UserPoint(surface, x, y);
     MouseDown(control, surface, button, shift, at.X, at.Y);
 }
@@ -149,6 +177,33 @@ void DeviceRelease(Control& control, int button, int shift, double x, double y)
 void DeviceDoubleClick(Control& control, double x, double y)
 {
     DblClick(control, SurfaceAt(control, x, y));
+}
+
+void DeviceKeyDown(Control& control, int keyCode, int shift)
+{
+    KeyDown(control, KeySurface(control), keyCode, shift);
+}
+
+void DeviceKeyPress(Control& control, int keyAscii)
+{
+    KeyPress(control, KeySurface(control), keyAscii);
+}
+
+void DeviceKeyUp(Control& control, int keyCode, int shift)
+{
+    KeyUp(control, KeySurface(control), keyCode, shift);
+}
+
+void DeviceMenuKey(Control& control)
+{
+    if (control.PMHolder.IsShown())
+        OpenMenu(control, control.PMHolder, nullptr);
+    else if (control.ZephraHolder.IsShown())
+        OpenMenu(control, control.ZephraHolder, nullptr);
+    else if (const ChartBox* chart = ShownChartBox(control))
+        OpenMenu(control, control.*chart->Box, chart);
+    else
+        OpenMenu(control, control.ParamBox, nullptr);
 }
 
 ChartSurface& SurfaceAt(Control& control, double x, double y)

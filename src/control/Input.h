@@ -16,6 +16,8 @@ void MouseMove(Control& control, ChartSurface& surface, int button, int shift, f
 void MouseUp(Control& control, ChartSurface& surface, int button, int shift, float x, float y);
 void DblClick(Control& control, ChartSurface& surface);
 void KeyDown(Control& control, ChartSurface& surface, int keyCode, int shift);
+void KeyPress(Control& control, ChartSurface& surface, int keyAscii);
+void KeyUp(Control& control, ChartSurface& surface, int keyCode, int shift);
 /// @}
 
 /// The same from a device: pixels of the whole control. A press captures the surface until the release, so
@@ -25,6 +27,11 @@ void DevicePress(Control& control, int button, int shift, double x, double y);
 void DeviceMove(Control& control, int buttons, int shift, double x, double y);
 void DeviceRelease(Control& control, int button, int shift, double x, double y);
 void DeviceDoubleClick(Control& control, double x, double y);
+void DeviceKeyDown(Control& control, int keyCode, int shift);
+void DeviceKeyPress(Control& control, int keyAscii);
+void DeviceKeyUp(Control& control, int keyCode, int shift);
+/// The key that opens popup menus: the menu of the chart on show.
+void DeviceMenuKey(Control& control);
 /// @}
 
 /// The topmost shown surface under a device point; the control's own when there is no other.

@@ -162,8 +162,11 @@ public:
             return;
         const DeviceRect rect = {place.Left, place.Top, place.Left + place.Width, place.Top + place.Height};
         canvas.PushClip(rect);
-        canvas.Fill(rect, surface.BackColor);
-        LayerReplay(canvas, place, pointSize).Run(surface.Picture());
+        if (canvas.BeginPicture(surface, rect)) {
+            canvas.Fill(rect, surface.BackColor);
+            LayerReplay(canvas, place, pointSize).Run(surface.Picture());
+            canvas.EndPicture();
+        }
         LayerReplay(canvas, place, pointSize).Run(surface.Overlay());
         for (const ChartSurface* child : surface.Children())
             Draw(*child, PlaceOf(*child, surface, place));

@@ -24,6 +24,11 @@ class Canvas {
 public:
     virtual ~Canvas() = default;
 
+    /// A surface's background and picture follow, until EndPicture. False when the canvas has kept them: the
+    /// replay goes on with the overlay then.
+    virtual bool BeginPicture(const ChartSurface& /*surface*/, const DeviceRect& /*rect*/) { return true; }
+    virtual void EndPicture() {}
+
     virtual void PushClip(const DeviceRect& rect) = 0;
     virtual void PopClip() = 0;
     virtual void Fill(const DeviceRect& rect, Colour colour) = 0;

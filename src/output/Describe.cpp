@@ -1,0 +1,53 @@
+#include "output/Describe.h"
+
+#include "control/Control.h"
+#include "formats/Numbers.h"
+#include "formats/TraceMode.h"
+
+#include <algorithm>
+
+namespace Traces {
+
+namespace {
+
+std::string CurveText(const TraceSlot& slot)
+{
+    const auto points = std::min<std::size_t>(
+        static_cast<std::size_t>(std::max<std::int16_t>(slot.Length, 0)), slot.X.size());
+    if (points == 0)
+        return ", no points";
+    return ", " + std::to_string(points) + (points == 1 ? " point" : " points") + " from " +
+           NumberText(slot.X.front()) + " to " + NumberText(slot.X[points - 1]);
+}
+
+std::string MarkersText(const MarkerSet& markers, const TraceSlot& slot)
+{
+    std::string text;
+    for (std::size_t k = 0; k < MarkerCount; ++k) {
+        if (!markers.MarkerOn[k])
+            continue;
+        text += ", marker " + std::to_string(k + 1);
+        const auto index = static_cast<std::size_t>(std::max<std::int16_t>(markers.MarkerIndex[k], 0));
+        if (index < slot.X.size() && index < slot.Y.size())
+            text += " at " + NumberText(slot.X[index]) + " reads " + NumberText(slot.Y[index]);
+    }
+    return text.empty() ? ", no markers" : text;
+}
+
+} // namespace
+
+std::string DescribePlot(const Control& control)
+{
+    const ModeRow* row = CurrentRow(control);
+    if (row == nullptr)
+        return "No trace.";
+    std::string text = ModeName(row->Mode);
+    if (!control.TraceName.empty())
+        text += " \"" + control.TraceName + '"';
+    text += CurveText(control.TraceSlots[0]);
+    if (row->Markers != nullptr)
+        text += MarkersText(control.*row->Markers, control.TraceSlots[0]);
+    return text + ".";
+}
+
+} // namespace Traces

@@ -1,0 +1,323 @@
+#include "qt/widgets/PlotWidget.h"
+
+#include "control/Control.h"
+#include "control/Input.h"
+#include "formats/HostFault.h"
+#include "formats/Text.h"
+#include "output/Capture.h"
+#include "output/Describe.h"
+#include "qt/widgets/KeepingCanvas.h"
+#include "qt/widgets/KeyCodes.h"
+#include "qt/widgets/PrintedPage.h"
+#include "qt/widgets/QtPlatform.h"
+
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QTimer>
+
+namespace Traces {
+
+namespace {
+
+constexpr QSize DesignSize(550, 480);
+
+QColor ScreenColour(Colour colour)
+{
+    return {colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF};
+}
+
+Colour ControlColour(const QColor& colour)
+{
+    return RGB(colour.red(), colour.green(), colour.blue());
+}
+
+Qt::CursorShape PointerShape(int pointer)
+{
+    switch (pointer) {
+    case MousePointers::Cross: return Qt::CrossCursor;
+    case MousePointers::SizeWE: return Qt::SizeHorCursor;
+    default: return Qt::ArrowCursor;
+    }
+}
+
+} // namespace
+
+class PlotWidget::Events final : public PlotEvents {
+public:
+    explicit Events(PlotWidget& plotWidget) : widget(plotWidget) {}
+    void KeyDown(int keyCode, int shift) override { Q_EMIT widget.KeyDown(keyCode, shift); }
+    void KeyPress(int keyAscii) override { Q_EMIT widget.KeyPress(keyAscii); }
+    void KeyUp(int keyCode, int shift) override { Q_EMIT widget.KeyUp(keyCode, shift); }
+    void MouseDown(int button, int shift, float x, float y) override
+    {
+        Q_EMIT widget.MouseDown(button, shift, x, y);
+    }
+    void MouseUp(int button, int shift, float x, float y) override
+    {
+        Q_EMIT widget.MouseUp(button, shift, x, y);
+    }
+    void Click() override { Q_EMIT widget.Click(); }
+    void DblClick() override { Q_EMIT widget.DblClick(); }
+    void MarkerChanged(std::int16_t index, bool value) override { Q_EMIT widget.MarkerChanged(index, value); }
+
+private:
+    PlotWidget& widget;
+};
+
+/// What the widget keeps between paint events.
+struct PlotWidget::Kept {
+    KeptPictures Pictures;
+    QTimer Description; ///< screen readers needn't hear each step of a drag
+};
+
+PlotWidget::PlotWidget(QWidget* parent)
+    : QWidget(parent), platform(std::make_unique<QtPlatform>(*this)), events(std::make_unique<Events>(*this)),
+      kept(std::make_unique<Kept>()), plot(std::make_unique<Traces::Plot>(*platform))
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAccessibleName(tr("Measurement chart"));
+    constexpr int descriptionDelay = 200; // milliseconds
+    kept->Description.setSingleShot(true);
+    kept->Description.setInterval(descriptionDelay);
+    connect(&kept->Description, &QTimer::timeout, this, &PlotWidget::DescribeTrace);
+    plot->Listen(events.get());
+    DescribeTrace();
+}
+
+PlotWidget::~PlotWidget() = default;
+
+template <class Action>
+void PlotWidget::Guarded(Action action)
+{
+    const QPointer<PlotWidget> self(this);
+    try {
+        action(plot->Instance());
+    } catch (const HostFault& fault) {
+        if (!self.isNull())
+            Q_EMIT Faulted(QString::fromUtf8(fault.what()));
+    }
+    if (!self.isNull())
+        PictureChanged();
+}
+
+void PlotWidget::SetPrinter(QPrinter* printer)
+{
+    platform->Printer = printer;
+}
+
+QColor PlotWidget::BackColor() const
+{
+    return ScreenColour(plot->BackColor());
+}
+
+QColor PlotWidget::ForeColor() const
+{
+    return ScreenColour(plot->ForeColor());
+}
+
+void PlotWidget::setShowParams(bool value)
+{
+    if (plot->ShowParams() == value)
+        return;
+    plot->ShowParams(value);
+    updateGeometry();
+    Q_EMIT ShowParamsChanged(value);
+}
+
+void PlotWidget::setAllowPopupMenu(bool value)
+{
+    if (plot->AllowPopupMenu() == value)
+        return;
+    plot->AllowPopupMenu(value);
+    Q_EMIT AllowPopupMenuChanged(value);
+}
+
+void PlotWidget::setBackColor(const QColor& value)
+{
+    plot->BackColor(ControlColour(value));
+}
+
+void PlotWidget::setForeColor(const QColor& value)
+{
+    plot->ForeColor(ControlColour(value));
+}
+
+void PlotWidget::setBorderStyle(BorderStyles value)
+{
+    plot->BorderStyle(static_cast<MyBorderStyles>(value));
+}
+
+void PlotWidget::setAutoScaleY(bool value)
+{
+    plot->AutoScaleY(value);
+}
+
+unsigned PlotWidget::PaintedPictures() const
+{
+    return kept->Pictures.Painted;
+}
+
+QSize PlotWidget::sizeHint() const
+{
+    constexpr int widthWithPane = 911;
+    return ShowParams() ? QSize(widthWithPane, DesignSize.height()) : DesignSize;
+}
+
+bool PlotWidget::Print()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    const QPointer<QPrintDialog> form(new QPrintDialog(&printer, this));
+    const bool accepted = form->exec() == QDialog::Accepted;
+    const bool alive = !form.isNull();
+    delete form;
+    return accepted && alive &&
+           PrintOnPage(printer, plot->Instance(), FittingPlace(printer, plot->Instance()), platform->Fonts());
+}
+
+void PlotWidget::PrintPreview()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    const QPointer<QPrintPreviewDialog> form(new QPrintPreviewDialog(&printer, this));
+    connect(form, &QPrintPreviewDialog::paintRequested, this, &PlotWidget::PrintOn);
+    form->exec();
+    delete form;
+}
+
+void PlotWidget::PrintOn(QPrinter* printer)
+{
+    PrintOnPage(*printer, plot->Instance(), FittingPlace(*printer, plot->Instance()), platform->Fonts());
+}
+
+void PlotWidget::Relayout()
+{
+    plot->Resize(width(), height());
+    PictureChanged();
+}
+
+void PlotWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    KeepingCanvas canvas(painter, platform->Fonts(), kept->Pictures, ratio);
+    ReplayControl(plot->Instance(), canvas, ratio);
+}
+
+void PlotWidget::resizeEvent(QResizeEvent*)
+{
+    Relayout();
+}
+
+void PlotWidget::mousePressEvent(QMouseEvent* event)
+{
+    const int button = ButtonsOf(event->button());
+    if (button == 0)
+        return;
+    platform->MenuPlace = event->globalPosition().toPoint();
+    Guarded([&](Control& control) {
+        DevicePress(control, button, ShiftOf(event->modifiers()), event->position().x(),
+                    event->position().y());
+    });
+}
+
+void PlotWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    Guarded([&](Control& control) {
+        DeviceMove(control, ButtonsOf(event->buttons()), ShiftOf(event->modifiers()), event->position().x(),
+                   event->position().y());
+        ShowPointer(event->position());
+    });
+}
+
+void PlotWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    const int button = ButtonsOf(event->button());
+    if (button == 0)
+        return;
+    Guarded([&](Control& control) {
+        DeviceRelease(control, button, ShiftOf(event->modifiers()), event->position().x(),
+                      event->position().y());
+    });
+}
+
+void PlotWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return mousePressEvent(event);
+    Guarded([&](Control& control) {
+        DeviceDoubleClick(control, event->position().x(), event->position().y());
+        ShowPointer(event->position());
+    });
+}
+
+void PlotWidget::keyPressEvent(QKeyEvent* event)
+{
+    const QPointer<PlotWidget> self(this);
+    const int code = KeyCodeOf(*event);
+    const int shift = ShiftOf(event->modifiers());
+    const int ascii = KeyAsciiOf(*event);
+    QWidget::keyPressEvent(event); // what the control doesn't use is its window's
+    if (code != 0)
+        Guarded([&](Control& control) { DeviceKeyDown(control, code, shift); });
+    if (!self.isNull() && ascii != 0)
+        Guarded([&](Control& control) { DeviceKeyPress(control, ascii); });
+}
+
+void PlotWidget::keyReleaseEvent(QKeyEvent* event)
+{
+    const int code = KeyCodeOf(*event);
+    if (code != 0 && !event->isAutoRepeat())
+        Guarded([&](Control& control) { DeviceKeyUp(control, code, ShiftOf(event->modifiers())); });
+}
+
+void PlotWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The mouse's own menu opened with the press.
+    if (event->reason() != QContextMenuEvent::Keyboard)
+        return;
+    platform->MenuPlace = mapToGlobal(rect().center());
+    Guarded([](Control& control) { DeviceMenuKey(control); });
+}
+
+void PlotWidget::TellPropertyChanged(std::string_view name)
+{
+    if (plot == nullptr) // while it is being made
+        return;
+    if (name == "BackColor")
+        Q_EMIT BackColorChanged(BackColor());
+    else if (name == "ForeColor")
+        Q_EMIT ForeColorChanged(ForeColor());
+    else if (name == "BorderStyle")
+        Q_EMIT BorderStyleChanged(BorderStyle());
+    else if (name == "AutoScaleY")
+        Q_EMIT AutoScaleYChanged(AutoScaleY());
+}
+
+void PlotWidget::PictureChanged()
+{
+    update();
+    if (kept != nullptr && plot != nullptr && !kept->Description.isActive())
+        kept->Description.start();
+}
+
+void PlotWidget::ShowPointer(QPointF place)
+{
+    Control& control = plot->Instance();
+    const ChartSurface& surface =
+        control.Captured != nullptr ? *control.Captured : SurfaceAt(control, place.x(), place.y());
+    const Qt::CursorShape shape = PointerShape(surface.MousePointer);
+    if (cursor().shape() != shape)
+        setCursor(shape);
+}
+
+void PlotWidget::DescribeTrace()
+{
+    setAccessibleDescription(QString::fromStdString(Utf8FromAnsi(DescribePlot(plot->Instance()))));
+}
+
+} // namespace Traces
