@@ -31,11 +31,16 @@ void RawWriter::PutI32(std::size_t offset, std::int32_t value)
     PutU32(offset, static_cast<std::uint32_t>(value));
 }
 
-void RawWriter::PutRounded(std::size_t offset, double value)
+std::int32_t RawWriter::Rounded(double value)
 {
     const double below = std::floor(value);
     nearestTie = std::min(nearestTie, std::abs(value - below - 0.5));
-    PutI32(offset, static_cast<std::int32_t>(value - below < 0.5 ? below : below + 1));
+    return static_cast<std::int32_t>(value - below < 0.5 ? below : below + 1);
+}
+
+void RawWriter::PutRounded(std::size_t offset, double value)
+{
+    PutI32(offset, Rounded(value));
 }
 
 void RawWriter::PutChars(std::size_t offset, std::size_t width, std::string_view text, char pad)

@@ -40,6 +40,9 @@ public:
     void PutU32(std::size_t offset, std::uint32_t value);
     void PutI32(std::size_t offset, std::int32_t value);
 
+    /// Value rounded to the nearest integer; remembers how close it came to a tie.
+    std::int32_t Rounded(double value);
+
     /// Puts value rounded to the nearest integer and remembers how close it came to a tie.
     /// value must fit a signed 32-bit integer.
     void PutRounded(std::size_t offset, double value);

@@ -21,6 +21,8 @@ struct Sample {
 std::vector<Sample> VnaFrequencySamples();
 /// Reflection and SWR against distance.
 std::vector<Sample> VnaDistanceSamples();
+/// Spectrum analyzer, channel scanner and spectrogram.
+std::vector<Sample> SpectrumSamples();
 
 /// value with a fixed number of decimals, whatever the locale.
 std::string Fixed(double value, int decimals);

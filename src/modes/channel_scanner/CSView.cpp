@@ -112,25 +112,27 @@ void DrawLevelLines(Control& control, const ChartWindow& window)
         const std::string text = FormatValue(level, "#0.###");
         const std::string shown = text.ends_with('.') ? text.substr(0, text.size() - 1) : text;
         holder.CurrentX = box.Left - holder.TextWidth(shown) - 1;
-        holder.CurrentY =
-            box.Top + (level - box.ScaleTop) * box.Height / box.ScaleHeight - holder.TextHeight(shown) / 2;
+        // A line along the chart's edge has its number inside of it.
+        const float height = holder.TextHeight(shown);
+        const float top = box.Top + (level - box.ScaleTop) * box.Height / box.ScaleHeight - height / 2;
+        holder.CurrentY = std::max(top, box.Top);
         holder.Print(shown);
     }
     box.DrawStyle = LineStyle::Solid;
 }
 
-/// A bar with its level on top, or below its top where there is no room above.
-void DrawBar(ChartSurface& box, float x, float level, float bottom, Colour colour)
+/// A level above its bar, or below the bar's top where there is no room above.
+void PutLevel(ChartSurface& box, float x, float level, float bottom)
 {
-    const float foot = std::max(box.ScaleTop + box.ScaleHeight, bottom);
-    if (level > foot)
-        box.FillBox(x - HalfBar, level, x + HalfBar, foot, colour);
-    const float height = box.TextHeight("0");
-    const float over = std::max(level, foot) + height;
-    if (over <= box.ScaleTop)
-        PutCentred(box, FormatValue(level, "#0"), x, over, White);
-    else
-        PutCentred(box, FormatValue(level, "#0"), x, std::min(level, box.ScaleTop), Black);
+    const std::string text = FormatValue(level, "#0");
+    const float height = box.TextHeight(text);
+    const float top = std::max(level, bottom) + height;
+    if (top > box.ScaleTop)
+        return PutCentred(box, text, x, std::min(level, box.ScaleTop), Black);
+    // Lines of the chart don't run through it.
+    const float half = box.TextWidth(text) / 2;
+    box.FillBox(x - half, top, x + half, top - 0.85F * height, Black);
+    PutCentred(box, text, x, top, White);
 }
 
 /// Numbers of the channels below their bars; in two rows where one would run together.
@@ -163,15 +165,19 @@ bool DrawBars(Control& control)
         if (!std::isfinite(slot.X[i]) || !std::isfinite(slot.Y[i]))
             throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
         const bool over = slot.Y[i] > limit && limit > window.Ymin;
-        DrawBar(box, slot.X[i], slot.Y[i], window.Ymin, over ? OverLimit : control.TraceColors[0]);
+        if (slot.Y[i] > window.Ymin)
+            box.FillBox(slot.X[i] - HalfBar, slot.Y[i], slot.X[i] + HalfBar, window.Ymin,
+                        over ? OverLimit : control.TraceColors[0]);
     }
-    DrawChannelLabels(control, box, window.Ymin);
     box.Line(box.ScaleLeft, window.Ymin, box.ScaleLeft + box.ScaleWidth, window.Ymin, control.GridColor);
     if (limit > window.Ymin) {
         box.DrawStyle = LineStyle::Dashed;
         box.Line(box.ScaleLeft, limit, box.ScaleLeft + box.ScaleWidth, limit, OverLimit);
         box.DrawStyle = LineStyle::Solid;
     }
+    for (std::size_t i = 0; static_cast<int>(i) < slot.Length; ++i)
+        PutLevel(box, slot.X[i], slot.Y[i], window.Ymin);
+    DrawChannelLabels(control, box, window.Ymin);
     DrawCurves(control, box, 1);
     return true;
 }

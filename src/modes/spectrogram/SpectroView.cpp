@@ -69,9 +69,6 @@ void DrawFrameTexts(Control& control)
     put("Ref Lvl " + FormatValue(record.RefLevel, "#0.0 dBm"), 2, 24);
     put("RBW " + FormatValue(record.RBWSetting / 1000.0, "#00 kHz"), 200, 24);
     put("VBW " + FormatValue(record.VBWSetting / 1000.0, "#00 kHz"), 400, 24);
-    put("Start " + FormatValue(record.StartFreq, "#0.000") + "MHz", 75, 334);
-    const std::string stop = "Stop " + FormatValue(record.StopFreq, "#0.000") + "MHz";
-    put(stop, WholeUnits(box.Left + box.Width - holder.TextWidth(stop)), 334);
     if (control.TraceSlots[0].X.size() >= SpectroRecord::Points && record.SweepCount > 0) {
         put("Sweep " + NumberText(control.SpectroSweep + 1) + " of " + NumberText(record.SweepCount) + ", " +
                 TimeText(record, control.SpectroSweep),
@@ -85,15 +82,28 @@ void DrawFrameTexts(Control& control)
     holder.Line(0, 416, 600, 416, Black);
 }
 
-/// Prints a text of the holder, ending left of the box, its middle at a height of the box's units.
+/// The ends of what shows, below the box.
+void PutFrequencies(Control& control, float start, float stop)
+{
+    ChartSurface& holder = control.SpectroHolder;
+    const ChartSurface& box = control.SpectroBox;
+    constexpr int y = 334;
+    DrawTextAt(holder, "Start " + FormatValue(start, "#0.000") + "MHz", WholeUnits(box.Left), y, TextSize);
+    const std::string text = "Stop " + FormatValue(stop, "#0.000") + "MHz";
+    DrawTextAt(holder, text, WholeUnits(box.Left + box.Width - holder.TextWidth(text)), y, TextSize);
+}
+
+/// Prints a text of the holder, ending left of the box, its middle at a height of the box's units but no part
+/// of it above or below the box.
 void PutAxisText(Control& control, const std::string& text, float at)
 {
     ChartSurface& holder = control.SpectroHolder;
     const ChartSurface& box = control.SpectroBox;
     SetBoxFont(holder, SmallText, false);
     holder.CurrentX = box.Left - holder.TextWidth(text) - 4;
-    holder.CurrentY =
-        box.Top + (at - box.ScaleTop) * box.Height / box.ScaleHeight - holder.TextHeight(text) / 2;
+    const float height = holder.TextHeight(text);
+    const float top = box.Top + (at - box.ScaleTop) * box.Height / box.ScaleHeight - height / 2;
+    holder.CurrentY = std::max(box.Top, std::min(top, box.Top + box.Height - height));
     holder.Print(text);
 }
 
@@ -185,22 +195,33 @@ void DrawMarkers(Control& control)
     }
 }
 
+bool IsZoomed(const Control& control)
+{
+    return control.ZoomActive && control.ZoomX2 > control.ZoomX1;
+}
+
 bool DrawMap(Control& control)
 {
     const SpectroRecord& record = control.Spectro;
     ChartSurface& box = control.SpectroBox;
     const TraceSlot& slot = control.TraceSlots[0];
-    const ChartWindow window = ChooseWindow(control);
+    ChartWindow window = ChooseWindow(control);
     if (static_cast<std::size_t>(std::max<std::int16_t>(slot.Length, 0)) < SpectroRecord::Points ||
-        slot.X.size() < SpectroRecord::Points || window.Xmin == window.Xmax || window.Ymin == window.Ymax)
+        window.Xmin == window.Xmax)
         return false;
-    ScaleBox(box, window);
-    if (record.SweepCount > 0) {
-        // A cell stands around its frequency.
-        const float half = (slot.X[1] - slot.X[0]) / 2;
+    PutFrequencies(control, window.Xmin, window.Xmax);
+    // A cell stands around its frequency, and the first and last ones show whole. The other axis counts
+    // sweeps whatever the levels are.
+    const float half = (slot.X[1] - slot.X[0]) / 2;
+    if (!IsZoomed(control))
+        window = {window.Xmin - std::abs(half), window.Xmax + std::abs(half), control.YScaleBottom,
+                  control.YScaleTop};
+    if (window.Ymin == window.Ymax)
+        return false;
+    box.Scale(window.Xmin, window.Ymax, window.Xmax, window.Ymin);
+    if (record.SweepCount > 0)
         box.Image(slot.X[0] - half, 0, slot.X[SpectroRecord::Points - 1] + half, record.SweepCount,
                   MapCells(record));
-    }
     DrawMarkers(control);
     DrawTimeAxis(control, window);
     DrawLegend(control, window);
@@ -243,6 +264,7 @@ void DrawSweepTrace(Control& control)
     if (!DrawChart(control, control.SpectroBox, control.SpectroMarkers))
         return;
     const ChartSurface& box = control.SpectroBox;
+    PutFrequencies(control, box.ScaleLeft, box.ScaleLeft + box.ScaleWidth / static_cast<float>(ChartSliver));
     const float top = box.ScaleTop;
     const float bottom = box.ScaleTop + box.ScaleHeight;
     for (const float level : {top, (top + bottom) / 2, bottom})
