@@ -47,6 +47,7 @@ public:
     {
         target->Polyline(points, pen, crisp);
     }
+    void Image(const DeviceRect& rect, const ColourCells& cells) override { target->Image(rect, cells); }
     void Circle(DevicePoint centre, double radius, Colour ink, Colour fill) override
     {
         target->Circle(centre, radius, ink, fill);
