@@ -23,9 +23,12 @@ constexpr auto ChartBoxes = std::to_array<ChartBox>({
      false},
     {&ChildControls::E1T1Box, &Control::E1T1Markers, &ChildControls::E1T1Coords, "#0.000", "#0.000", true},
     {&ChildControls::GSMBox, &Control::GSMMarkers, &ChildControls::GSMCoords, "#0.000", "#0.000", true},
-    {&ChildControls::CDMABox, &Control::CDMAMarkers, &ChildControls::CDMACoords, "#0.000", "#0.000", true},
-    {&ChildControls::EvDOTopBox, &Control::EvDOMarkers, &ChildControls::EvDOCoords, "#0.000", "#0", false},
-    {&ChildControls::EvDOSubBox, &Control::EvDOMarkers, &ChildControls::EvDOSubCoords, "#0.000", "#0", false},
+    {&ChildControls::CDMABox, &Control::CDMAMarkers, &ChildControls::CDMACoords, "#0.000", "#0.000", true,
+     true},
+    {&ChildControls::EvDOTopBox, &Control::EvDOMarkers, &ChildControls::EvDOCoords, "#0.000", "#0", false,
+     true},
+    {&ChildControls::EvDOSubBox, &Control::EvDOMarkers, &ChildControls::EvDOSubCoords, "#0.000", "#0", false,
+     true},
 });
 
 MarkerSet* MarkersOf(Control& control, const ChartBox& chart)
@@ -94,7 +97,7 @@ void DragMarker(Control& control, const ChartBox& chart, float x)
     markers.MarkerX[marker] = x;
     MarkerAtX(control, markers, marker);
     if (control.DisplayMarkerValues) {
-        markers.Holder->Cls();
+        markers.Holder->EraseOverlay();
         DrawMarkerReadouts(markers);
     }
     box.Line(x, box.ScaleTop, x, box.ScaleTop + box.ScaleHeight, RGB(255, 200, 200));

@@ -18,6 +18,7 @@ struct ChartBox {
     Label ChildControls::*Coords;
     std::string_view MaskX, MaskY; ///< of the coordinate label
     bool Zooms;                    ///< a double click turns zoom mode on and off
+    bool StepsMarkers = false;     ///< the arrow keys move the selected marker
 };
 
 /// The row of a surface; null for one that is no chart box.

@@ -41,6 +41,13 @@ void SetMarkerFlag(Control& control, MarkerSet& markers, std::int16_t index, boo
     }
 }
 
+std::string TextOfMarker(Control& control, const MarkerSet& markers, std::size_t marker)
+{
+    const ModeRow* row = control.Families.FindMode(control.Header.Mode);
+    return row != nullptr && row->MarkerText != nullptr ? row->MarkerText(control, marker)
+                                                        : FormatValue(markers.MarkerX[marker], "#0.000");
+}
+
 } // namespace
 
 MarkerSet* FamilyMarkers(Control& control)
@@ -76,7 +83,25 @@ void MarkerAtX(Control& control, MarkerSet& markers, std::size_t marker)
     if (right == end)
         return;
     markers.MarkerIndex[marker] = static_cast<std::int16_t>(right - slot.X.begin());
-    markers.MarkerText[marker] = FormatValue(x, "#0.000");
+    markers.MarkerText[marker] = TextOfMarker(control, markers, marker);
+}
+
+void StepMarker(Control& control, MarkerSet& markers, int keyCode)
+{
+    constexpr int left = 37;
+    constexpr int right = 39;
+    const std::int16_t selected = markers.SelectedMarker;
+    if ((keyCode != left && keyCode != right) || selected < 0 ||
+        selected >= static_cast<std::int16_t>(MarkerCount))
+        return;
+    const auto marker = static_cast<std::size_t>(selected);
+    if (!markers.MarkerOn[marker])
+        return;
+    // A step past the curve's ends is taken back by the redraw, which clamps every marker.
+    std::int16_t& index = markers.MarkerIndex[marker];
+    index = static_cast<std::int16_t>(index + (keyCode == left ? -1 : 1));
+    markers.MarkerText[marker] = TextOfMarker(control, markers, marker);
+    RedrawTrace(control);
 }
 
 void DrawMarkerReadouts(MarkerSet& markers)

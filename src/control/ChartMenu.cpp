@@ -9,6 +9,7 @@
 #include "output/Capture.h"
 #include "output/GpsText.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Traces {
@@ -19,6 +20,29 @@ constexpr std::array<std::string_view, 10> MarkerCaptions = {
     "Marker 1", "Marker 2", "Marker 3",          "Marker 4", "Marker 5",
     "Marker 6", "-",        "Clear All markers", "-",        "Show Marker Values"};
 
+const FamilyMenuItem* FindFamilyItem(const Control& control, std::string_view name)
+{
+    const ModeRow* row = CurrentRow(control);
+    if (row == nullptr)
+        return nullptr;
+    const auto found = std::ranges::find(row->MenuItems, name, &FamilyMenuItem::Name);
+    return found == row->MenuItems.end() ? nullptr : &*found;
+}
+
+bool IsChecked(const Control& control, std::string_view familyItem)
+{
+    const FamilyMenuItem* item = FindFamilyItem(control, familyItem);
+    return item != nullptr && item->Checked != nullptr && item->Checked(control);
+}
+
+/// An item that only the family on show has.
+MenuItem FamilyItem(const Control& control, std::string_view name, std::string_view caption, bool shown)
+{
+    const FamilyMenuItem* item = FindFamilyItem(control, name);
+    const bool enabled = item == nullptr || item->Enabled == nullptr || item->Enabled(control);
+    return {name, caption, shown, enabled, IsChecked(control, name)};
+}
+
 MenuItem MarkersMenu(const Control& control, const MarkerSet* markers)
 {
     const ModeRow* row = CurrentRow(control);
@@ -26,13 +50,15 @@ MenuItem MarkersMenu(const Control& control, const MarkerSet* markers)
     const bool hidden = (row != nullptr && row->Markers == nullptr) ||
                         control.CurrentMode == TraceMode::GSM || control.CurrentMode == TraceMode::E1 ||
                         control.CurrentMode == TraceMode::T1 || markers == nullptr;
-    MenuItem head{"menuMarkerHead", "Markers", !hidden};
+    // The spectrum of a code domain trace has no markers.
+    const bool enabled = !IsChecked(control, "menuCDMARFSpec");
+    MenuItem head{"menuMarkerHead", "Markers", !hidden, enabled};
     for (std::size_t i = 0; i < MarkerCaptions.size(); ++i) {
         MenuItem item{"menuMarkers", MarkerCaptions[i]};
         item.Index = static_cast<int>(i);
-        if (!hidden && i < MarkerCount)
+        if (!hidden && enabled && i < MarkerCount)
             item.Checked = markers->MarkerOn[i];
-        if (!hidden && item.Index == MarkerItem::ShowValues)
+        if (!hidden && enabled && item.Index == MarkerItem::ShowValues)
             item.Checked = control.DisplayMarkerValues;
         head.Items.push_back(item);
     }
@@ -70,11 +96,10 @@ void RunSubTitle(Control& control, int, bool)
 void RunGpsCoords(Control& control, int, bool)
 {
     std::string text = GPSLocation(control);
-    if (text.find("N/A") == std::string::npos) {
-        control.Platform.ClearClipboard();
-        control.Platform.SetClipboardText(text);
+    // Nobody is told of a copy that the system refused.
+    if (text.find("N/A") == std::string::npos && control.Platform.ClearClipboard() &&
+        control.Platform.SetClipboardText(text))
         text += "\r\n\r\n(copied to clipboard)";
-    }
     control.Platform.MessageBox({"GPS Position", text, MessageIcon::Information});
 }
 
@@ -125,19 +150,19 @@ Menu ChartMenu(const Control& control, const MarkerSet* markers)
                  control.AutoScaleY},
                 {"menuUndoZoom", "Undo Zoom", onChart, control.ZoomActive},
                 {"menuGSMSepbar", "-", gsm},
-                {"menuGSMSpec", "Spectrum Mode", gsm},
-                {"menuGSMFrame", "Frame Mode", gsm},
-                {"menuGSMSlot", "Slot Mode", gsm},
+                FamilyItem(control, "menuGSMSpec", "Spectrum Mode", gsm),
+                FamilyItem(control, "menuGSMFrame", "Frame Mode", gsm),
+                FamilyItem(control, "menuGSMSlot", "Slot Mode", gsm),
                 {"menuCDAMSepbar", "-", cdma},
-                {"menuCDMAHistogram", "CDP Histogram", cdma},
-                {"menuCDMARFSpec", "RF Spectrum Graph", cdma},
-                {"menuCDMABitReverse", "Bit Reverse", cdma},
+                FamilyItem(control, "menuCDMAHistogram", "CDP Histogram", cdma),
+                FamilyItem(control, "menuCDMARFSpec", "RF Spectrum Graph", cdma),
+                FamilyItem(control, "menuCDMABitReverse", "Bit Reverse", cdma),
                 {"menuEvDOeSepbar", "-", evdo},
-                {"menuEvDOCDPMAC", "CDP - MAC", evdo},
-                {"menuEvDOCDPData", "CDP - Data", evdo},
-                {"menuEvDOOTA", "Over the Air", evdo},
-                {"menuEvDORFSpecIdle", "RF Spectrum - Idle", evdo},
-                {"menuEvDORFSpecActive", "RF Spectrum - Active", evdo},
+                FamilyItem(control, "menuEvDOCDPMAC", "CDP - MAC", evdo),
+                FamilyItem(control, "menuEvDOCDPData", "CDP - Data", evdo),
+                FamilyItem(control, "menuEvDOOTA", "Over the Air", evdo),
+                FamilyItem(control, "menuEvDORFSpecIdle", "RF Spectrum - Idle", evdo),
+                FamilyItem(control, "menuEvDORFSpecActive", "RF Spectrum - Active", evdo),
                 {"menuSubTitleSepbar", "-"},
                 {"menuSubTitle", "Plot Subtitle"},
                 {"menuTraceInfoSepbar", "-", onChart},
@@ -174,11 +199,17 @@ void ShowPowerMenu(Control& control)
     Show(control, PowerMenu());
 }
 
-void RunMenuItem(Control& control, const MenuChoice& choice, bool checked)
+bool RunMenuItem(Control& control, const MenuChoice& choice, bool checked)
 {
-    for (const ItemHandler& handler : Handlers)
-        if (handler.Name == choice.Name)
-            return handler.Run(control, choice.Index, checked);
+    const auto* handler = std::ranges::find(Handlers, choice.Name, &ItemHandler::Name);
+    if (handler != Handlers.end()) {
+        handler->Run(control, choice.Index, checked);
+        return true;
+    }
+    const FamilyMenuItem* item = FindFamilyItem(control, choice.Name);
+    if (item != nullptr)
+        item->Run(control);
+    return item != nullptr;
 }
 
 } // namespace Traces

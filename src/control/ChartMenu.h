@@ -19,8 +19,8 @@ Menu PowerMenu();
 void ShowChartMenu(Control& control, const MarkerSet* markers);
 void ShowPowerMenu(Control& control);
 
-/// Carries out an item. `checked` is its check mark as it was shown. An unknown name does nothing.
+/// Carries out an item. `checked` is its check mark as it was shown. False for an unknown name.
 /// @throws HostFault as the members that the items call.
-void RunMenuItem(Control& control, const MenuChoice& choice, bool checked);
+bool RunMenuItem(Control& control, const MenuChoice& choice, bool checked);
 
 } // namespace Traces

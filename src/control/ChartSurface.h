@@ -63,6 +63,9 @@ public:
     /// Erases the overlay, and the picture too when AutoRedraw is True; the pen goes to the top left.
     void Cls();
 
+    /// Erases the overlay alone, whatever AutoRedraw says.
+    void EraseOverlay() { overlay.Clear(); }
+
     /// Erases both layers whatever AutoRedraw says, as for a trace that is gone.
     void Erase();
 

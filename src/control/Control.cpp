@@ -70,10 +70,11 @@ Control::Control(Traces::Platform& platform, const Traces::Families& families)
     TwipsPerPixelY = platform.TwipsPerPixelY();
     Metrics = &platform.Metrics();
     Initialize(*this);
+    constexpr float designWidth = 550;
+    constexpr float designHeight = 480;
+    Surface.Width = designWidth;
+    Surface.Height = designHeight;
     LoadProperties(*this, {});
-    constexpr int designWidth = 550;
-    constexpr int designHeight = 480;
-    Resize(*this, designWidth, designHeight);
 }
 
 const ModeRow* Families::FindMode(int mode) const

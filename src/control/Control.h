@@ -68,6 +68,7 @@ struct Control : private Screen, public ChildControls {
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed
 
     ChartSurface* Captured = nullptr; ///< the surface that a mouse button was pressed on, until the release
+    int ButtonsDown = 0;              ///< the mouse buttons that hold it
     ChartSurface* Focused = nullptr;  ///< the surface that was last pressed on: keys go there
 
     Traces::Screen& ScreenFacts() { return *this; }

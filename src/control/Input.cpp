@@ -62,6 +62,8 @@ bool OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* cha
         return false;
     if (chart != nullptr)
         ShowChartMenu(control, chart->Markers != nullptr ? &(control.*chart->Markers) : nullptr);
+    else if (&surface == &control.CDMAHolder)
+        ShowChartMenu(control, &control.CDMAMarkers);
     else if (&surface == &control.ParamBox)
         ShowChartMenu(control, nullptr);
     else if (OpensPowerMenu(control, surface))
@@ -69,6 +71,13 @@ bool OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* cha
     else
         return false;
     return true;
+}
+
+void Capture(Control& control, ChartSurface& surface, int button)
+{
+    control.Captured = &surface;
+    control.Focused = &surface;
+    control.ButtonsDown |= button;
 }
 
 /// Keys go where the mouse was last pressed, as long as it is shown.
@@ -86,8 +95,11 @@ void MouseDown(Control& control, ChartSurface& surface, int button, int shift, f
     const bool opened = button == MouseButton::Right && OpenMenu(control, surface, chart);
     if (life.Gone())
         return;
-    if (opened)
-        control.Captured = nullptr; // The menu has taken the mouse, and the release with it.
+    if (opened) {
+        // The menu has taken the mouse, and the release with it.
+        control.Captured = nullptr;
+        control.ButtonsDown = 0;
+    }
     if (chart != nullptr) {
         if (!opened)
             ChartMouseDown(control, *chart, x, y);
@@ -134,7 +146,10 @@ void DblClick(Control& control, ChartSurface& surface)
 
 void KeyDown(Control& control, ChartSurface& surface, int keyCode, int shift)
 {
-    if (&surface == &control.Surface && control.Events != nullptr)
+    const ChartBox* chart = FindChartBox(control, surface);
+    if (chart != nullptr && chart->StepsMarkers)
+        StepMarker(control, control.*chart->Markers, keyCode);
+    else if (&surface == &control.Surface && control.Events != nullptr)
         control.Events->KeyDown(keyCode, shift);
 }
 
@@ -153,14 +168,15 @@ void KeyUp(Control& control, ChartSurface& surface, int keyCode, int shift)
 void DevicePress(Control& control, int button, int shift, double x, double y)
 {
     ChartSurface& surface = control.Captured != nullptr ? *control.Captured : SurfaceAt(control, x, y);
-    control.Captured = &surface;
-    control.Focused = &surface;
+    Capture(control, surface, button);
     const Point at = UserPoint(surface, x, y);
     MouseDown(control, surface, button, shift, at.X, at.Y);
 }
 
 void DeviceMove(Control& control, int buttons, int shift, double x, double y)
 {
+    if (buttons == 0)
+        control.Captured = nullptr; // A release that went elsewhere.
     ChartSurface& surface = control.Captured != nullptr ? *control.Captured : SurfaceAt(control, x, y);
     const Point at = UserPoint(surface, x, y);
     MouseMove(control, surface, buttons, shift, at.X, at.Y);
@@ -169,14 +185,19 @@ void DeviceMove(Control& control, int buttons, int shift, double x, double y)
 void DeviceRelease(Control& control, int button, int shift, double x, double y)
 {
     ChartSurface& surface = control.Captured != nullptr ? *control.Captured : SurfaceAt(control, x, y);
-    control.Captured = nullptr;
+    control.ButtonsDown &= ~button;
+    if (control.ButtonsDown == 0)
+        control.Captured = nullptr;
     const Point at = UserPoint(surface, x, y);
     MouseUp(control, surface, button, shift, at.X, at.Y);
 }
 
 void DeviceDoubleClick(Control& control, double x, double y)
 {
-    DblClick(control, SurfaceAt(control, x, y));
+    // The second press is a press as well: what is dragged from here stays with the surface.
+    ChartSurface& surface = SurfaceAt(control, x, y);
+    Capture(control, surface, MouseButton::Left);
+    DblClick(control, surface);
 }
 
 void DeviceKeyDown(Control& control, int keyCode, int shift)

@@ -25,6 +25,14 @@ struct GpsFix {
     std::optional<std::string> UTCTime; ///< of the modes that have one
 };
 
+/// An item of the chart menu that one family has, under the name that the menu has it.
+struct FamilyMenuItem {
+    std::string_view Name;
+    void (*Run)(Control& control) = nullptr;
+    bool (*Checked)(const Control& control) = nullptr;
+    bool (*Enabled)(const Control& control) = nullptr; ///< null is always
+};
+
 /// What a measurement mode does. A null function means that the mode has no such route.
 struct ModeRow {
     std::uint8_t Mode = 0;
@@ -34,6 +42,13 @@ struct ModeRow {
 
     /// The family's markers; null for a mode without markers.
     MarkerSet Control::*Markers = nullptr;
+
+    /// The text of a marker in readouts; null shows the X at which it was dragged. A family may fold the
+    /// marker back into its record here.
+    std::string (*MarkerText)(Control& control, std::size_t marker) = nullptr;
+
+    /// The family's own items of the chart menu.
+    std::span<const FamilyMenuItem> MenuItems = {};
 
     /// Fills the family's record and the parameter list from a raw trace.
     void (*Decode)(Control& control, const RawBuffer& buffer) = nullptr;

@@ -71,6 +71,7 @@ void LoadProperties(Control& control, const PropertyBag& bag)
         surface->BackColor = back;
     control.CSHolder.BackColor = back;
     control.SpectroHolder.BackColor = back;
+    Resize(control, static_cast<int>(control.Surface.Width), static_cast<int>(control.Surface.Height));
 }
 
 void StoreProperties(const Control& control, PropertyBag& bag)

@@ -5,7 +5,7 @@
 
 namespace Traces {
 
-/// Applies the stored properties, with the defaults for keys that the bag hasn't.
+/// Applies the stored properties, with the defaults for keys that the bag hasn't, and lays out anew.
 void LoadProperties(Control& control, const PropertyBag& bag);
 
 /// Writes all six.

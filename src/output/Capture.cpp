@@ -4,11 +4,13 @@
 #include "output/Svg.h"
 
 #include <cmath>
+#include <exception>
 
 namespace Traces {
 
 Picture TracePicture(const Control& control)
 {
+    control.Platform.Repaint();
     if (auto picture = control.Platform.CapturePicture(control))
         return std::move(*picture);
     return {"image/svg+xml", SvgPicture(control), static_cast<int>(std::lround(control.Surface.Width)),
@@ -18,8 +20,12 @@ Picture TracePicture(const Control& control)
 bool Copy2Clipboard(Control& control)
 {
     Platform& platform = control.Platform;
-    return platform.ClearClipboard() && platform.SetClipboardText(control.lstParameters.Text()) &&
-           platform.SetClipboardPicture(TracePicture(control));
+    try {
+        return platform.ClearClipboard() && platform.SetClipboardText(control.lstParameters.Text()) &&
+               platform.SetClipboardPicture(TracePicture(control));
+    } catch (const std::exception&) {
+        return false; // Whatever failed, the host hears of it in the one way that it knows.
+    }
 }
 
 bool PrintTrace(Control& control, double xScale, double yScale, double xPosition, double yPosition)

@@ -233,6 +233,29 @@ TEST_F(Markers, DeviceEventsReachTheSurfaceUnderThemUntilTheRelease)
     DeviceRelease(state, MouseButton::Left, 0, -300, 2000);
     EXPECT_EQ(set.DraggedMarker, -1);
     EXPECT_EQ(set.MarkerIndex[0], 0);
+
+    // The second press of a double click begins a drag, too; another button's release doesn't end it.
+    DeviceDoubleClick(state, 200, 200);
+    DevicePress(state, MouseButton::Right, 0, 200, 200);
+    EXPECT_EQ(state.Captured, nullptr) << "the menu has the mouse";
+    DeviceDoubleClick(state, 200, 200);
+    DevicePress(state, MouseButton::Middle, 0, 200, 200);
+    DeviceRelease(state, MouseButton::Middle, 0, 200, 200);
+    EXPECT_EQ(state.Captured, &box);
+    DeviceMove(state, 0, 0, 300, 10);
+    EXPECT_EQ(state.Captured, nullptr) << "no button is down any more";
+}
+
+TEST_F(Markers, ADragOverABrokenViewLeavesItsFrame)
+{
+    plot.MarkerOn(0);
+    const std::vector<float> same = {5, 5}, levels = {1, 2};
+    plot.PlotCurve(2, same, levels);
+    const std::size_t frame = state.VNAHolder.Picture().size();
+    ASSERT_TRUE(state.VNAHolder.AutoRedraw) << "the view has stopped before its end";
+    MouseDown(state, box, MouseButton::Left, 0, 5, 0);
+    MouseMove(state, box, MouseButton::Left, 0, 6, 0);
+    EXPECT_GE(state.VNAHolder.Picture().size(), frame);
 }
 
 } // namespace

@@ -103,6 +103,7 @@ TEST_F(HandingOn, SixPropertiesAreStoredUnderTheirKeys)
     bag = {{"ShowParams", -1}, {"AllowPopup", 0},  {"BackColor", 0x123456},
            {"ForeColor", 7},   {"BorderStyle", 2}, {"AutoScaleY", -1}};
     plot.ReadProperties(bag);
+    EXPECT_EQ(plot.Instance().VNAHolder.Left, 2) << "laid out at once";
     PropertyBag again;
     plot.WriteProperties(again);
     EXPECT_EQ(again, bag);

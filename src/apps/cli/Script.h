@@ -6,12 +6,24 @@
 #include "control/HeadlessPlatform.h"
 #include "control/Plot.h"
 #include "control/PlotEvents.h"
+#include "formats/Text.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace Traces::Cli {
+
+/// Answers are UTF-8, as a script has them: files are named so, and texts for the control become its own.
+class ScriptPlatform final : public HeadlessPlatform {
+public:
+    std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view initial) override
+    {
+        const auto answer = HeadlessPlatform::InputBox(prompt, title, initial);
+        return answer ? std::optional(AnsiFromUtf8(*answer)) : std::nullopt;
+    }
+};
 
 class Script {
 public:
@@ -31,6 +43,8 @@ private:
         Json Events = Json::array();
 
         void KeyDown(int keyCode, int shift) override { Events.push_back({"KeyDown", keyCode, shift}); }
+        void KeyPress(int keyAscii) override { Events.push_back({"KeyPress", keyAscii}); }
+        void KeyUp(int keyCode, int shift) override { Events.push_back({"KeyUp", keyCode, shift}); }
         void MouseDown(int button, int shift, float x, float y) override
         {
             Events.push_back({"MouseDown", button, shift, ToJson(x), ToJson(y)});
@@ -50,7 +64,7 @@ private:
     Json Call(std::string_view line);
 
     EventLog events;
-    HeadlessPlatform platform;
+    ScriptPlatform platform;
     Traces::Plot plot{platform};
 };
 

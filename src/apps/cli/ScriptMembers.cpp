@@ -139,7 +139,7 @@ Json PressKey(Script& script, const ScriptValues& values)
     ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
     if (surface == nullptr)
         return Error("there is no surface " + values.Text(0));
-    KeyDown(script.Instance(), *surface, values.Long(1), 0);
+    KeyDown(script.Instance(), *surface, values.Long(1), values.Has(2) ? values.Long(2) : 0);
     return NoResult();
 }
 
@@ -150,7 +150,8 @@ Json MenuItemCall(Script& script, const ScriptValues& values)
     const MenuChoice choice = {values.Text(0), values.Has(1) ? values.Long(1) : -1};
     const Menu menu = ChartMenu(control, FamilyMarkers(control));
     const MenuItem* item = FindChosen(menu.Items, choice);
-    RunMenuItem(control, choice, item != nullptr && item->Checked);
+    if (!RunMenuItem(control, choice, item != nullptr && item->Checked))
+        return Error("there is no menu item " + choice.Name);
     return NoResult();
 }
 
@@ -198,7 +199,7 @@ constexpr ScriptMember Members[] = {
     {"MouseMove",       "name long long number number", Mouse<MouseMove>},
     {"MouseUp",         "name long long number number", Mouse<MouseUp>},
     {"DblClick",        "name",      DoubleClick},
-    {"KeyDown",         "name long", PressKey},
+    {"KeyDown",         "name long [long]", PressKey},
     {"MenuItem",        "name [long]", MenuItemCall},
     // Handed on.
     {"GPSLocation",     "",          [](Script& s, Values) { return Result(s.Plot().GPSLocation()); }},

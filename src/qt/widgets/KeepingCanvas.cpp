@@ -27,7 +27,8 @@ KeepingCanvas::Painting::Painting(KeptPictures::Picture& picture, SizedFonts& fo
     Canvas.emplace(Painter, fonts, ratio);
 }
 
-KeepingCanvas::KeepingCanvas(QPainter& windowPainter, SizedFonts& sizedFonts, KeptPictures& kept, double pixelRatio)
+KeepingCanvas::KeepingCanvas(QPainter& windowPainter, SizedFonts& sizedFonts, KeptPictures& kept,
+                             double pixelRatio)
     : painter(windowPainter), fonts(sizedFonts), pictures(kept), ratio(pixelRatio),
       window(windowPainter, sizedFonts, pixelRatio)
 {
