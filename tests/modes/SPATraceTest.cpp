@@ -128,6 +128,32 @@ TEST_F(SPATrace, ALoadKeepsWhatTheFileDoesNotGive)
     EXPECT_EQ(state.SPA.GpsLongitude, -3'422'250);
 }
 
+TEST_F(SPATrace, PointsAreFoundByTheirKeysHoweverTheirLinesStand)
+{
+    struct Case {
+        const char* what;
+        const char* lines;
+        std::vector<float> levels;
+    };
+    const Case cases[] = {
+        {"as saved", "1:\t-1\r\n2:\t-2\r\n3:\t-3\r\n", {-1, -2, -3}},
+        {"other order", "2:\t-2\r\n1:\t-1\r\n3:\t-3\r\n", {-1, -2, -3}},
+        {"a line lost", "1:\t-1\r\n3:\t-3\r\n", {-1, 0, -3}},
+        {"a key in front of the others", "3:\t-9\r\n1:\t-1\r\n2:\t-2\r\n3:\t-3\r\n", {-1, -2, -9}},
+        {"a key twice", "1:\t-1\r\n1:\t-9\r\n2:\t-2\r\n3:\t-3\r\n", {-1, -2, -3}},
+        {"a leading zero", "1:\t-1\r\n02:\t-9\r\n2:\t-2\r\n3:\t-3", {-1, -2, -3}},
+        {"other forms", "1:\t -1 \r\n2:\tinf\r\n3:\t1,000\r\n", {-1, 0, 1000}},
+        {"two fields", "1:\t-1\t5\r\n2:\t-2\r\n3:\t-3\r\n", {0, -2, -3}},
+        {"no carriage return", "1:\t-1\n2:\t-2\r\n3:\t-3\r\n", {0, -2, -3}},
+    };
+    for (const Case& c : cases) {
+        state.SPA.PointLevel = {};
+        Load("DataPoints:\t3\r\n" + std::string(c.lines));
+        const auto& levels = state.SPA.PointLevel;
+        EXPECT_EQ(std::vector<float>(levels.begin(), levels.begin() + 3), c.levels) << c.what;
+    }
+}
+
 TEST_F(SPATrace, SaveLoadAndSaveGiveTheSameFile)
 {
     const Testing::TemporaryFolder folder;
