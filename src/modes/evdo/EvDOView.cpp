@@ -12,6 +12,8 @@
 #include "modes/evdo/EvDOPanels.h"
 #include "modes/evdo/EvDOTrace.h"
 
+#include <cmath>
+
 namespace Traces {
 
 namespace {
@@ -123,7 +125,7 @@ void DrawDataChart(Control& control, ChartSurface& box, std::string_view head,
     constexpr float half = 0.4F;
     ChartSurface& holder = control.EvDOHolder;
     // The heads stand at the charts' right ends: the standard and the channel have the left ones.
-    DrawTextAt(holder, head, WholeUnits(box.Left + box.Width) - 14, 16, headSize);
+    DrawTextAt(holder, head, WholeUnits(box.Left + box.Width) - 14, 16, headSize, false, Black);
     ChartWindow window = {-0.5F, EvDORecord::DataCodes - 0.5F, control.YScaleBottom, control.YScaleTop};
     if (control.EvDO.DataPowerActive == EvDONotCaptured)
         return DrawCentredInChart(box, "No Data Captured", 45, headSize);
@@ -162,14 +164,15 @@ void DrawTimeChart(Control& control)
     for (std::size_t i = 1; i < curve.size(); ++i)
         box.Line(static_cast<float>(i - 1), curve[i - 1], static_cast<float>(i), curve[i], Yellow);
     DrawLevelLines(control, box, window);
-    const auto label = [&](const char* text, float level, float below) {
-        DrawTextAt(box, text, 4, WholeUnits(level + below * box.TextHeight("H")), labelSize, false, White);
+    const auto label = [&](const char* text, float level, float above) {
+        DrawTextAt(box, text, 4, WholeUnits(level + above * std::abs(box.TextHeight("H"))), labelSize, false,
+                   White);
     };
     SetBoxFont(box, labelSize, false);
     label(active ? "+10 dB" : "+5 dB", window.Ymax, 0);
     if (!active)
         label("-5 dB", -5, 0);
-    label(active ? "-90 dB" : "-55 dB", window.Ymin, -1);
+    label(active ? "-90 dB" : "-55 dB", window.Ymin, 1);
 }
 
 void DrawTimeLabels(ChartSurface& holder)
@@ -181,7 +184,7 @@ void DrawTimeLabels(ChartSurface& holder)
         const float width = holder.TextWidth(labels[i]);
         // The first and the last stand within the chart's edges.
         DrawTextAt(holder, labels[i], WholeUnits(TimeChart.Left + (TimeChart.Width - width) * part), y,
-                   TextSize);
+                   TextSize, false, Black);
     }
 }
 
@@ -192,9 +195,9 @@ void DrawSpectrum(Control& control)
     Place(box, SpectrumChart);
     Place(control.EvDOSubBox, TimeChart);
     DrawTextAt(holder, "Center  " + FormatValue(control.EvDO.CenterFrequency, "#0.000 MHz"), 100, 176,
-               TextSize);
+               TextSize, false, Black);
     const std::string span = "Span  2.500MHz";
-    DrawTextAt(holder, span, WholeUnits(540 - holder.TextWidth(span)), 176, TextSize);
+    DrawTextAt(holder, span, WholeUnits(540 - holder.TextWidth(span)), 176, TextSize, false, Black);
     DrawTimeChart(control);
     DrawTimeLabels(holder);
     const ChartWindow window = ChooseWindow(control);
