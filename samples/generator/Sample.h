@@ -24,6 +24,9 @@ std::vector<Sample> VnaDistanceSamples();
 /// Spectrum analyzer, channel scanner and spectrogram.
 std::vector<Sample> SpectrumSamples();
 
+/// Code domains of CDMA cells.
+std::vector<Sample> CdmaSamples();
+
 /// value with a fixed number of decimals, whatever the locale.
 std::string Fixed(double value, int decimals);
 /// value with at most four decimals and no trailing zeros.

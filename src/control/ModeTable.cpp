@@ -2,6 +2,9 @@
 
 #include "control/Control.h"
 #include "formats/TraceMode.h"
+#include "modes/cdma/CDMAChart.h"
+#include "modes/cdma/CDMATrace.h"
+#include "modes/cdma/CDMAView.h"
 #include "modes/channel_scanner/CSTrace.h"
 #include "modes/channel_scanner/CSView.h"
 #include "modes/spectrogram/SpectroTrace.h"
@@ -103,6 +106,28 @@ constexpr ModeRow SpectrogramSweep = {
     .DoubleClick = ToggleSweepView,
 };
 
+// CDMA.
+
+constexpr FileKind CDMAFile = {"CDMA", LoadCDMAText, EncodeCDMAText};
+
+constexpr ModeRow CodeDomain = {
+    .Mode = TraceMode::CDMA,
+    .Holder = &ChildControls::CDMAHolder,
+    .Markers = &Control::CDMAMarkers,
+    .MarkerText = CDMAMarkerText,
+    .MenuItems = CDMAMenuItems,
+    .Decode = DecodeCDMATraceByVersion,
+    .DecodeToSave = DecodeCDMATrace,
+    .FillCurve = FillCDMACurve,
+    .Params = CDMAParamsByVersion,
+    .View = DrawCDMATrace,
+    .BeforeUpload = AdvanceCDMATau,
+    .EncodeRecord = EncodeCDMARecord,
+    .EncodeRaw = EncodeCDMARaw,
+    .Position = CDMAPosition,
+    .TextFile = &CDMAFile,
+};
+
 constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLFrequency),
     Sweep(TraceMode::SWRFrequency),
@@ -114,14 +139,12 @@ constexpr ModeRow Modes[] = {
     ChannelScan,
     SpectrogramMap,
     SpectrogramSweep,
+    CodeDomain,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
-    VNAFile,
-    SPAFile,
-    CSFile,
-    SpectroFile,
+    VNAFile, SPAFile, CSFile, SpectroFile, CDMAFile,
 };
 
 } // namespace

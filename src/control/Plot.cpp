@@ -11,6 +11,7 @@
 #include "formats/HostFault.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
+#include "modes/cdma/CDMATrace.h"
 #include "modes/channel_scanner/CSTrace.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/vna_spa/SPATrace.h"
@@ -97,6 +98,16 @@ void Plot::LoadSPAText(std::string_view TraceString, const std::string& path)
     Traces::LoadSPAText(*control, TraceString, path);
 }
 
+void Plot::LoadCDMAText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadCDMAText(*control, TraceString, path);
+}
+
+void Plot::LoadCDMAText_v320_above(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadCDMAText_v320_above(*control, TraceString, path);
+}
+
 void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadCSText(*control, TraceString, path);
@@ -107,12 +118,12 @@ void Plot::LoadSpectroText(std::string_view TraceString, const std::string& path
     Traces::LoadSpectroText(*control, TraceString, path);
 }
 
-std::string Plot::GetUpLoadTrace(const std::string& TraceName) const
+std::string Plot::GetUpLoadTrace(const std::string& TraceName)
 {
     return Traces::GetUpLoadTrace(*control, TraceName);
 }
 
-std::string Plot::GetUpLoadTraceB(const std::string& TraceName) const
+std::string Plot::GetUpLoadTraceB(const std::string& TraceName)
 {
     return GetUpLoadTrace(TraceName);
 }
