@@ -10,6 +10,8 @@
 #include "control/PropertyBag.h"
 #include "formats/TraceHeader.h"
 #include "modes/channel_scanner/CSRecord.h"
+#include "modes/power/PowerRecord.h"
+#include "modes/power/ZephraRecord.h"
 #include "modes/spectrogram/SpectroRecord.h"
 #include "modes/vna_spa/SPARecord.h"
 #include "modes/vna_spa/VNARecord.h"
@@ -63,6 +65,10 @@ struct Control : private Screen, public ChildControls {
     SPARecord SPA;
     CSRecord CS;
     SpectroRecord Spectro;
+    PowerRecord Power;
+    ZephraRecord Zephra;
+    double PowerLadderValue = 0; ///< what the power views scaled last; a view may show it of the trace before
+    std::string PowerLadderUnit;
     std::int16_t CurrentMode = -1; ///< what RedrawTrace shows; -1 until the first trace is accepted
     bool DisplayMarkerValues = true;
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed
