@@ -13,7 +13,7 @@ namespace Traces {
 
 namespace {
 
-constexpr float RowText = 14;
+constexpr float RowText = 11;
 constexpr int RowHeight = 28;
 
 struct PaneRow {
