@@ -20,6 +20,7 @@ struct PaneRow {
     int Y;
     std::string_view Label;
     std::string Value;
+    int ValueAbove = 0; ///< what the value stands higher than its label
 };
 
 void PrintRows(ChartSurface& pane, std::initializer_list<PaneRow> rows)
@@ -29,7 +30,7 @@ void PrintRows(ChartSurface& pane, std::initializer_list<PaneRow> rows)
     constexpr int valueWidth = 150;
     for (const PaneRow& row : rows) {
         PanePrint(pane, row.Label, row.Y, labelLeft, RowText);
-        PanePrint(pane, row.Value, row.Y, valueRight, RowText, PaneAlign::End, valueWidth);
+        PanePrint(pane, row.Value, row.Y - row.ValueAbove, valueRight, RowText, PaneAlign::End, valueWidth);
     }
 }
 
@@ -131,8 +132,7 @@ void PowerSummaryZephra(Control& control)
                      {124, "Power Offset:", offset ? FormatValue(record.PowerOffset, "#0.00 dB") : "OFF"},
                      {152, "Zero Adj:", Masked(record.ZeroStatus, "#0.00")},
                      {180, "Limits:", record.LimitStatus},
-                     {208, "Signal Std:", ""},
-                     {204, "", record.SignalStandard},
+                     {208, "Signal Std:", record.SignalStandard, 4},
                      {236, "Averages:", record.RanValue}});
     DrawPanel(pane, 294, 4);
     PrintRows(pane, {{296, "Model:", header.Model},
