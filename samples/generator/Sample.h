@@ -23,6 +23,8 @@ std::vector<Sample> VnaFrequencySamples();
 std::vector<Sample> VnaDistanceSamples();
 /// Spectrum analyzer, channel scanner and spectrogram.
 std::vector<Sample> SpectrumSamples();
+/// Power meter, power monitor and high accuracy power meter.
+std::vector<Sample> PowerSamples();
 
 /// value with a fixed number of decimals, whatever the locale.
 std::string Fixed(double value, int decimals);
