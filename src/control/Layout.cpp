@@ -27,7 +27,7 @@ struct BoxPlace {
 struct LabelPlace {
     Label ChildControls::*Text;
     Rectangle Place;
-    float FontSize = Font{}.Size; ///< points at the control's design size
+    float FontSize = Font::UsualSize; ///< points at the control's design size
 };
 
 /// A level that is read across a room.
