@@ -1,7 +1,10 @@
 // Raw traces of any bytes, shown by a host that keeps going after a fault: redraw, report, picture, frame,
 // clear. Two header fields that nothing interprets, byte 3 and bytes 17 to 20, choose what the host sets.
+#include "OwnFolder.h"
+#include "chart/Markers.h"
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
+#include "control/Input.h"
 #include "control/ModeTable.h"
 #include "control/Plot.h"
 #include "control/Upload.h"
@@ -66,6 +69,17 @@ void CheckFrame(const std::string& frame)
     Check(byte(0) * 256U + byte(1) == frame.size(), "a frame begins with its length");
 }
 
+/// A drag from anywhere to anywhere, and a double click in the middle, where the charts are.
+void UseMouse(Control& state, std::span<const std::uint8_t, 4> values)
+{
+    const double width = state.Surface.DeviceWidth() / 256;
+    const double height = state.Surface.DeviceHeight() / 256;
+    Calls([&] { DevicePress(state, MouseButton::Left, 0, values[0] * width, values[1] * height); });
+    Calls([&] { DeviceMove(state, MouseButton::Left, 0, values[2] * width, values[3] * height); });
+    Calls([&] { DeviceRelease(state, MouseButton::Left, 0, values[2] * width, values[3] * height); });
+    Calls([&] { DeviceDoubleClick(state, 128 * width, 128 * height); });
+}
+
 /// What a host may have set between two redraws.
 void SetByHost(Plot& plot, std::uint8_t choice, std::span<const std::uint8_t, 4> values)
 {
@@ -77,10 +91,10 @@ void SetByHost(Plot& plot, std::uint8_t choice, std::span<const std::uint8_t, 4>
     state.ZoomX2 = level(1) * 10;
     state.ZoomY1 = level(2);
     state.ZoomY2 = level(3);
-    if ((choice & 4) != 0) {
-        state.VNAMarkers.MarkerOn.fill(true);
+    if (MarkerSet* markers = FamilyMarkers(state); markers != nullptr && (choice & 4) != 0) {
+        markers->MarkerOn.fill(true);
         for (std::size_t i = 0; i < values.size(); ++i)
-            state.VNAMarkers.MarkerIndex[i] = static_cast<std::int16_t>(values[i] * 257 - 32768);
+            markers->MarkerIndex[i] = static_cast<std::int16_t>(values[i] * 257 - 32768);
     }
     if ((choice & 8) != 0) {
         const std::array<float, 3> x = {level(0), level(1), level(2) * 1E38F};
@@ -92,6 +106,8 @@ void SetByHost(Plot& plot, std::uint8_t choice, std::span<const std::uint8_t, 4>
         plot.ShowParams(true);
     if ((choice & 16) != 0)
         Calls([&] { plot.Resize(values[0] * 8, values[1] * 8); });
+    if ((choice & 32) != 0)
+        UseMouse(state, values);
 }
 
 void CheckShown(Plot& plot)
@@ -122,8 +138,16 @@ void CheckCleared(Plot& plot)
 
 } // namespace
 
+/// A spectrum's raw route leaves a copy of the frame in the current folder.
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    Fuzz::MakeNamesAbsolute(argc, argv);
+    return 0;
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    static const Fuzz::OwnFolder folder;
     const std::span<const std::uint8_t> trace(data, size);
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     HeadlessPlatform platform;

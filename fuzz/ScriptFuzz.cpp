@@ -1,5 +1,6 @@
 // Scripts of any lines, as the command runs them. They run in an empty folder of their own that holds one raw
 // and one text trace; lines that name a place outside of it are left out.
+#include "OwnFolder.h"
 #include "apps/cli/Json.h"
 #include "apps/cli/Script.h"
 #include "apps/cli/ScriptLine.h"
@@ -13,9 +14,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <variant>
-#include <vector>
 
 namespace {
 
@@ -31,36 +30,15 @@ void Check(bool holds, const char* property, std::string_view shown)
     std::abort();
 }
 
-/// A folder in memory where the system has one, removed at the end.
+/// The folder that scripts run in, with a raw and a text trace.
 class Workplace {
 public:
-    Workplace()
-    {
-        std::error_code error;
-        const fs::path memory = "/dev/shm";
-        const fs::path parent = fs::is_directory(memory, error) ? memory : fs::temp_directory_path();
-        std::string name = (parent / "traces-fuzz-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr)
-            std::abort();
-        folder = name;
-        // Temporary files of the control go there too.
-        setenv("TMPDIR", name.c_str(), 1);
-        fs::current_path(folder);
-        MakeTraces();
-    }
-    ~Workplace()
-    {
-        std::error_code error;
-        fs::current_path("/", error);
-        fs::remove_all(folder, error);
-    }
-    Workplace(const Workplace&) = delete;
-    Workplace& operator=(const Workplace&) = delete;
+    Workplace() { MakeTraces(); }
 
     /// Every input finds the same files.
     void Reset() const
     {
-        for (const auto& entry : fs::directory_iterator(folder))
+        for (const auto& entry : fs::directory_iterator(folder.Path()))
             fs::remove_all(entry.path());
         if (!WriteWholeFile("a.raw", raw) || !WriteWholeFile("b.vna", text))
             std::abort();
@@ -87,7 +65,7 @@ private:
         text = ReadWholeFile(name).value_or("");
     }
 
-    fs::path folder;
+    Fuzz::OwnFolder folder;
     std::string raw, text;
 };
 
@@ -102,22 +80,10 @@ bool StaysInside(std::string_view line)
 
 } // namespace
 
-/// Scripts run in another folder: makes the names of the fuzzer's own files independent of it.
+/// Scripts run in another folder.
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
-    static std::vector<std::string> arguments(*argv, *argv + *argc);
-    static std::vector<char*> pointers;
-    constexpr std::string_view prefix = "-artifact_prefix=";
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        std::string& argument = arguments[i];
-        if (argument.starts_with(prefix))
-            argument.replace(prefix.size(), argument.npos, fs::absolute(argument.substr(prefix.size())));
-        else if (i > 0 && !argument.starts_with('-'))
-            argument = fs::absolute(argument);
-        pointers.push_back(argument.data());
-    }
-    pointers.push_back(nullptr);
-    *argv = pointers.data();
+    Fuzz::MakeNamesAbsolute(argc, argv);
     return 0;
 }
 

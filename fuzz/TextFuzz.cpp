@@ -73,15 +73,19 @@ std::string FileOf(Plot& plot)
     return std::string(EmptyChecksumLine) + plot.Instance().lstParameters.Text();
 }
 
-/// Whether a saved header says what was loaded: no line break in a text, no key of a point, a mode whose
-/// name leads back.
-bool HeaderReturns(const TraceHeader& header)
+/// Whether a saved file says what was loaded: no line break in a text, no key that is looked for anywhere, a
+/// mode whose name leads back, or that the loader sets by itself.
+bool Returns(const Control& state, const FileKind& kind)
 {
-    for (const std::string* text : {&header.Model, &header.Version, &header.Date, &header.Time})
-        if (text->find_first_of("\r\n") != text->npos)
-            return false;
-    return header.RefNumber.find_first_of("\r\n") == header.RefNumber.npos &&
-           header.RefNumber.find("Data point") == header.RefNumber.npos &&
+    const TraceHeader& header = state.Header;
+    for (const std::string* text : {&header.Model, &header.Version, &header.Date, &header.Time,
+                                    &header.RefNumber, &state.VNA.VNASignalStd, &state.SPA.AntennaName,
+                                    &state.SPA.SignalStandard, &state.CS.SignalStandard, &state.CS.LinkType,
+                                    &state.Spectro.AntennaName, &state.Spectro.SignalStandard})
+        for (const char* breach : {"\r", "\n", "Data point", "Channel", "Sweep"})
+            if (text->find(breach) != text->npos)
+                return false;
+    return kind.Extension == "CS" || kind.Extension == "SPG" ||
            ModeCode(ModeName(header.Mode)) == header.Mode;
 }
 
@@ -106,7 +110,7 @@ void LoadAndSave(const FileKind& kind, const std::string& file)
     Check(FileOf(plot) == saved, "the list is built anew each time");
     plot.TraceInfo();
     SvgPicture(state);
-    if (!HeaderReturns(state.Header) || !ListReturns(state.lstParameters))
+    if (!Returns(state, kind) || !ListReturns(state.lstParameters))
         return;
     kind.Load(state, saved, {});
     Check(FileOf(plot) == saved, "a saved file loads and saves as it is", saved + FileOf(plot));

@@ -26,6 +26,9 @@ std::vector<Sample> SpectrumSamples();
 /// Power meter, power monitor and high accuracy power meter.
 std::vector<Sample> PowerSamples();
 
+/// Code domains of CDMA cells.
+std::vector<Sample> CdmaSamples();
+
 /// value with a fixed number of decimals, whatever the locale.
 std::string Fixed(double value, int decimals);
 /// value with at most four decimals and no trailing zeros.

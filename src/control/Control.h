@@ -9,6 +9,7 @@
 #include "control/PlotEvents.h"
 #include "control/PropertyBag.h"
 #include "formats/TraceHeader.h"
+#include "modes/cdma/CDMARecord.h"
 #include "modes/channel_scanner/CSRecord.h"
 #include "modes/power/PowerRecord.h"
 #include "modes/power/ZephraRecord.h"
@@ -69,6 +70,9 @@ struct Control : private Screen, public ChildControls {
     ZephraRecord Zephra;
     double PowerLadderValue = 0; ///< what the power views scaled last; a view may show it of the trace before
     std::string PowerLadderUnit;
+    CDMARecord CDMA;
+    bool CDMAIs128 = false;        ///< the codes stand in bit-reversed order
+    bool ChartHasMarkers = true;   ///< of the CDMA chart: its spectrum has none
     std::int16_t CurrentMode = -1; ///< what RedrawTrace shows; -1 until the first trace is accepted
     bool DisplayMarkerValues = true;
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed

@@ -53,6 +53,9 @@ struct ModeRow {
     /// Fills the family's record and the parameter list from a raw trace.
     void (*Decode)(Control& control, const RawBuffer& buffer) = nullptr;
 
+    /// What decodes a raw trace that is saved without being shown, where that differs.
+    void (*DecodeToSave)(Control& control, const RawBuffer& buffer) = nullptr;
+
     /// After Decode, for a trace that is to be shown: curve slot 0 and limits.
     /// @throws HostFault where the trace's own numbers make the curve impossible.
     void (*FillCurve)(Control& control) = nullptr;
@@ -62,6 +65,9 @@ struct ModeRow {
 
     /// Draws the holder from the decoded state.
     void (*View)(Control& control) = nullptr;
+
+    /// What an upload of the record on show changes in it.
+    void (*BeforeUpload)(Control& control) = nullptr;
 
     /// Upload frames, from the record on show and from a raw file's bytes.
     /// @throws HostFault for a value or a position that the frame can't hold.

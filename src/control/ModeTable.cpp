@@ -2,6 +2,9 @@
 
 #include "control/Control.h"
 #include "formats/TraceMode.h"
+#include "modes/cdma/CDMAChart.h"
+#include "modes/cdma/CDMATrace.h"
+#include "modes/cdma/CDMAView.h"
 #include "modes/channel_scanner/CSTrace.h"
 #include "modes/channel_scanner/CSView.h"
 #include "modes/power/PowerMeterTrace.h"
@@ -145,6 +148,28 @@ constexpr ModeRow HighAccuracyPower = {
     .TextFile = &HIPMFile,
 };
 
+// CDMA.
+
+constexpr FileKind CDMAFile = {"CDMA", LoadCDMAText, EncodeCDMAText};
+
+constexpr ModeRow CodeDomain = {
+    .Mode = TraceMode::CDMA,
+    .Holder = &ChildControls::CDMAHolder,
+    .Markers = &Control::CDMAMarkers,
+    .MarkerText = CDMAMarkerText,
+    .MenuItems = CDMAMenuItems,
+    .Decode = DecodeCDMATraceByVersion,
+    .DecodeToSave = DecodeCDMATrace,
+    .FillCurve = FillCDMACurve,
+    .Params = CDMAParamsByVersion,
+    .View = DrawCDMATrace,
+    .BeforeUpload = AdvanceCDMATau,
+    .EncodeRecord = EncodeCDMARecord,
+    .EncodeRaw = EncodeCDMARaw,
+    .Position = CDMAPosition,
+    .TextFile = &CDMAFile,
+};
+
 constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLFrequency),
     Sweep(TraceMode::SWRFrequency),
@@ -159,11 +184,12 @@ constexpr ModeRow Modes[] = {
     PowerMeter,
     PowerMonitor,
     HighAccuracyPower,
+    CodeDomain,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
-    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile,
+    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile,
 };
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "formats/HostFault.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
+#include "modes/cdma/CDMATrace.h"
 #include "modes/channel_scanner/CSTrace.h"
 #include "modes/power/PowerMeterTrace.h"
 #include "modes/power/PowerMonitorTrace.h"
@@ -100,6 +101,16 @@ void Plot::LoadSPAText(std::string_view TraceString, const std::string& path)
     Traces::LoadSPAText(*control, TraceString, path);
 }
 
+void Plot::LoadCDMAText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadCDMAText(*control, TraceString, path);
+}
+
+void Plot::LoadCDMAText_v320_above(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadCDMAText_v320_above(*control, TraceString, path);
+}
+
 void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadCSText(*control, TraceString, path);
@@ -130,12 +141,12 @@ void Plot::LoadPowerMeterDat(std::string_view TraceString)
     Traces::LoadPowerMeterDat(*control, TraceString);
 }
 
-std::string Plot::GetUpLoadTrace(const std::string& TraceName) const
+std::string Plot::GetUpLoadTrace(const std::string& TraceName)
 {
     return Traces::GetUpLoadTrace(*control, TraceName);
 }
 
-std::string Plot::GetUpLoadTraceB(const std::string& TraceName) const
+std::string Plot::GetUpLoadTraceB(const std::string& TraceName)
 {
     return GetUpLoadTrace(TraceName);
 }

@@ -62,6 +62,8 @@ public:
     /// made. A message is shown, and nothing changes, when the checksum fails.
     void LoadVNAText(std::string_view TraceString, const std::string& path);
     void LoadSPAText(std::string_view TraceString, const std::string& path);
+    void LoadCDMAText(std::string_view TraceString, const std::string& path);
+    void LoadCDMAText_v320_above(std::string_view TraceString, const std::string& path);
     void LoadCSText(std::string_view TraceString, const std::string& path);
     void LoadSpectroText(std::string_view TraceString, const std::string& path);
     void LoadPowerMeterText(std::string_view TraceString, const std::string& path);
@@ -76,8 +78,8 @@ public:
     /// The frame of the trace on show when TraceName is empty, else of the file. Empty without a route.
     /// @throws HostFault FileAccess, Overflow, Range.
     /// @{
-    std::string GetUpLoadTrace(const std::string& TraceName) const;
-    std::string GetUpLoadTraceB(const std::string& TraceName) const;
+    std::string GetUpLoadTrace(const std::string& TraceName);
+    std::string GetUpLoadTraceB(const std::string& TraceName);
     /// @}
 
     /// @name The trace on show

@@ -65,6 +65,8 @@ std::string RawProblem(const Families& families, std::string_view content)
     const std::string size = std::to_string(content.size());
     if (content.size() > longest)
         return "isn't a trace: " + size + " bytes are more than one has";
+    if (content.size() < static_cast<std::size_t>(shortest))
+        return "isn't a trace: " + size + " bytes are fewer than one has";
     if (!spectrogram && length < shortest)
         return "isn't a trace: its " + size + " bytes don't begin with a trace's length";
     if (!spectrogram && static_cast<std::size_t>(length) > content.size() + tolerance)

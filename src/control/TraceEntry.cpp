@@ -45,7 +45,11 @@ bool ShowTrace(Control& control, const RawBuffer& buffer)
     const ModeRow* row = CurrentRow(control);
     if (row == nullptr || row->Decode == nullptr)
         return false;
+    // A decoder may warn of a bad measurement, and whoever reads that may close the window.
+    const LifeWatch life(control);
     row->Decode(control, buffer);
+    if (life.Gone())
+        return true;
     if (row->FillCurve != nullptr)
         row->FillCurve(control);
     RedrawTrace(control);

@@ -87,8 +87,13 @@ bool SaveRawTrace(Control& control, std::string_view trace, std::string& filenam
     if (!PassesLengthGate(control, buffer))
         return false;
     const ModeRow* row = RowForRawSave(control, form);
-    if (row != nullptr && row->Decode != nullptr)
+    const LifeWatch life(control);
+    if (row != nullptr && row->DecodeToSave != nullptr)
+        row->DecodeToSave(control, buffer);
+    else if (row != nullptr && row->Decode != nullptr)
         row->Decode(control, buffer);
+    if (life.Gone())
+        return false;
     // No dialog when a name is given.
     control.TraceSaved = true;
     return SaveTrace(control, filename);

@@ -21,12 +21,16 @@ std::string EncodeTraceFile(const Families& families, const std::string& path)
 
 } // namespace
 
-std::string GetUpLoadTrace(const Control& control, const std::string& path)
+std::string GetUpLoadTrace(Control& control, const std::string& path)
 {
     if (!path.empty())
         return EncodeTraceFile(control.Families, path);
     const ModeRow* row = control.Families.FindMode(control.Header.Mode);
-    return row != nullptr && row->EncodeRecord != nullptr ? row->EncodeRecord(control) : std::string();
+    if (row == nullptr || row->EncodeRecord == nullptr)
+        return {};
+    if (row->BeforeUpload != nullptr)
+        row->BeforeUpload(control);
+    return row->EncodeRecord(control);
 }
 
 std::string EncodeRawFile(const Families& families, std::string_view file)

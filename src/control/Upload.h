@@ -12,7 +12,7 @@ struct Families;
 /// The frame of the record on show when the path is empty, else of the file. Empty for a mode or an
 /// extension that has no upload.
 /// @throws HostFault FileAccess for a file that can't be read; what the encoders throw.
-std::string GetUpLoadTrace(const Control& control, const std::string& path);
+std::string GetUpLoadTrace(Control& control, const std::string& path);
 
 /// The frame of a raw file's bytes, by the mode byte in its header.
 std::string EncodeRawFile(const Families& families, std::string_view file);

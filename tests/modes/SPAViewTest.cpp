@@ -37,25 +37,24 @@ TEST_F(SPAView, FrameTextsStandAtTheirPlaces)
         const char* text;
         float x, y;
     };
-    static constexpr Case cases[] = {
-        {"SPA-Hill", 283, 4}, // centred as "GSM-Hill" would be
-        {"Ref Lvl -20.0 dBm", 2, 24},
-        {"RBW 00 kHz", 200, 24},
-        {"VBW 1000 kHz", 400, 24},
-        {"10 dB/Div", 2, 80},
-        {"Atten", 2, 100},
-        {" 15 dB", 2, 116},
-        {"Recall", 2, 136},
-        {"Pos Peak", 2, 236},
-        {"Swp Time", 2, 404},
-        {" Recall", 2, 420},
-        {"Start 925.000MHz", 80, 422},
-        {"Stop 960.500MHz", 380, 422},
-        {"Start=925.000000MHz", 2, 442},
-        {"Stop=960.500000MHz", 2, 460},
-        {"Std=GSM 900", 275, 442},
-        {"Channel=N/A", 275, 460},
-    };
+    static constexpr Case cases[] = {// the title is centred as "GSM-Hill" would be
+                                     {"SPA-Hill", 283, 4},
+                                     {"Ref Lvl -20.0 dBm", 2, 24},
+                                     {"RBW 00 kHz", 200, 24},
+                                     {"VBW 1000 kHz", 400, 24},
+                                     {"10 dB/Div", 2, 80},
+                                     {"Atten", 2, 100},
+                                     {" 15 dB", 2, 116},
+                                     {"Recall", 2, 136},
+                                     {"Pos Peak", 2, 236},
+                                     {"Swp Time", 2, 404},
+                                     {" Recall", 2, 420},
+                                     {"Start 925.000MHz", 80, 422},
+                                     {"Stop 960.500MHz", 380, 422},
+                                     {"Start=925.000000MHz", 2, 442},
+                                     {"Stop=960.500000MHz", 2, 460},
+                                     {"Std=GSM 900", 275, 442},
+                                     {"Channel=N/A", 275, 460}};
     const DisplayList& picture = state.SPAHolder.Picture();
     ASSERT_EQ(picture.size(), 1 + std::size(cases) + 1);
     for (std::size_t i = 0; i < std::size(cases); ++i) {
@@ -68,27 +67,17 @@ TEST_F(SPAView, FrameTextsStandAtTheirPlaces)
     EXPECT_FALSE(state.SPABox.AutoRedraw);
 }
 
-TEST_F(SPAView, TheChartRunsFromTheReferenceLevelToTenDivisionsBelowZero)
-{
-    ASSERT_TRUE(plot.ShowTrace(Spectrum().Bytes()));
-    EXPECT_EQ(state.SPABox.ScaleTop, -20);
-    EXPECT_EQ(state.SPABox.ScaleHeight, -80);
-    const DisplayList& picture = state.SPABox.Picture();
-    ASSERT_EQ(picture.size(), 1 + 2 + 11 + 11U) << "no corner labels";
-    EXPECT_EQ(std::get<LineCommand>(picture[1]).From, (Point{925, -62.2F}));
-}
-
-TEST_F(SPAView, AMarkerShowsItsLineAndTellsTheHostOnce)
+TEST_F(SPAView, TheChartRunsFromTheReferenceLevelToTenDivisionsBelowZeroAndHasMarkers)
 {
     plot.Listen(this);
     ASSERT_TRUE(plot.ShowTrace(Spectrum().Bytes()));
+    const DisplayList& picture = state.SPABox.Picture();
+    ASSERT_EQ(picture.size(), 1 + 2 + 11 + 11U) << "no corner labels";
+    EXPECT_EQ(std::get<LineCommand>(picture[1]).From, (Point{925, -62.2F}));
     state.SPAMarkers.MarkerIndex[2] = 1;
-    plot.DisplayMarkerValues(false);
     plot.MarkerOn(2);
     EXPECT_EQ(changes, (std::vector<std::pair<int, bool>>{{2, true}}));
-    EXPECT_TRUE(plot.DisplayMarkerValues());
-    EXPECT_TRUE(plot.MarkerState(2));
-    EXPECT_EQ(std::get<LineCommand>(state.SPABox.Picture().back()),
+    EXPECT_EQ(std::get<LineCommand>(picture.back()),
               (LineCommand{{942.75F, -20}, {942.75F, -100}, {RGB(180, 255, 255), LineStyle::Dashed, 1}}));
     plot.Listen(nullptr);
 }

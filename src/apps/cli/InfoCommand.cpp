@@ -95,6 +95,11 @@ std::string Plain(std::string_view text)
 void AddParameter(Json& parameters, std::string_view line)
 {
     const std::size_t tab = line.find('\t');
+    // The times of a spectrogram's sweeps stand in columns.
+    if (const std::size_t sign = line.find(" ="); tab == std::string_view::npos && sign != tab) {
+        parameters[Plain(line.substr(0, sign))] = Plain(TrimBlanks(line.substr(sign + 2)));
+        return;
+    }
     std::string key = Plain(line.substr(0, tab));
     if (key.ends_with(':'))
         key.pop_back();

@@ -26,6 +26,19 @@ std::string TidyPlatform::GetTempFileNameA(const std::string& folder, std::strin
     return path;
 }
 
+namespace {
+
+/// A box's text on one line: line breaks become blanks, as two control characters in a row do.
+std::string MessageLine(std::string_view text)
+{
+    std::string line = TerminalText(text);
+    for (std::size_t at = line.find("  "); at != std::string::npos; at = line.find("  ", at))
+        line.erase(at, 1);
+    return line;
+}
+
+} // namespace
+
 std::size_t UsedPoints(const TraceSlot& slot)
 {
     return std::min(static_cast<std::size_t>(std::max<std::int16_t>(slot.Length, 0)), slot.X.size());
@@ -48,8 +61,12 @@ bool OpenTrace::Load(Console& console, const Input& input, Need need)
             if (need == Need::Curve)
                 problem = fault.what();
         }
-        if (!platform.Messages.empty())
-            problem = "can't be verified: no temporary file can be made";
+        for (const Message& message : platform.Messages) {
+            if (message.Icon == MessageIcon::Stop)
+                problem = "can't be verified: no temporary file can be made";
+            else
+                console.Note(input.Name, MessageLine(message.Text));
+        }
     }
     if (!problem.empty())
         console.Error(input.Name, problem);

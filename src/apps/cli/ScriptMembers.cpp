@@ -189,6 +189,8 @@ constexpr ScriptMember Members[] = {
     {"loadTextFile",    "name",      [](Script& s, Values v) { s.Plot().loadTextFile(v.Text(0)); return NoResult(); }},
     {"LoadVNAText",     "file",      LoadText<&Plot::LoadVNAText>},
     {"LoadSPAText",     "file",      LoadText<&Plot::LoadSPAText>},
+    {"LoadCDMAText",    "file",      LoadText<&Plot::LoadCDMAText>},
+    {"LoadCDMAText_v320_above", "file", LoadText<&Plot::LoadCDMAText_v320_above>},
     {"LoadCSText",      "file",      LoadText<&Plot::LoadCSText>},
     {"LoadSpectroText", "file",      LoadText<&Plot::LoadSpectroText>},
     {"LoadPowerMeterText", "file",   LoadText<&Plot::LoadPowerMeterText>},

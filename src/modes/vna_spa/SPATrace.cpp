@@ -7,6 +7,7 @@
 #include "formats/Numbers.h"
 #include "formats/Text.h"
 #include "modes/vna_spa/SPAFields.h"
+#include "modes/vna_spa/SavedNumbers.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -37,9 +38,44 @@ void DecodeSPAPoints(Control& control, const RawBuffer& buffer)
     }
 }
 
+/// The text from the first point's line on, when no line in front of it begins as a point's does: then the
+/// lines that follow are those that lookups would find. Empty otherwise.
+std::string_view SavedPoints(const TraceText& text)
+{
+    constexpr std::string_view firstKey = "\n1:\t";
+    const std::string_view whole = text.Whole();
+    const std::size_t start = whole.find(firstKey);
+    if (start == std::string_view::npos)
+        return {};
+    for (std::size_t at = whole.find('\n'); at < start; at = whole.find('\n', at + 1))
+        if (whole[at + 1] >= '0' && whole[at + 1] <= '9')
+            return {};
+    return whole.substr(start + 1);
+}
+
+/// Reads lines as a save writes them, and returns how many.
+std::size_t LoadSavedPoints(SPARecord& record, std::size_t points, std::string_view rest)
+{
+    for (std::size_t i = 0; i < points; ++i) {
+        std::size_t number = 0;
+        const auto key = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+        const auto width = static_cast<std::size_t>(key.ptr - rest.data());
+        if (number != i + 1 || rest.empty() || rest[0] == '0' || rest.substr(width, 2) != ":\t")
+            return i;
+        rest.remove_prefix(width + 2);
+        float level = 0;
+        if (!TakeNumber(rest, level, '\r') || !rest.starts_with('\n'))
+            return i;
+        record.PointLevel[i] = level;
+        rest.remove_prefix(1);
+    }
+    return points;
+}
+
 void LoadSPAPoints(Control& control, const TraceText& text)
 {
-    for (std::size_t i = 0; i < PointsInRecord(control); ++i)
+    const std::size_t points = PointsInRecord(control);
+    for (std::size_t i = LoadSavedPoints(control.SPA, points, SavedPoints(text)); i < points; ++i)
         LoadField(text.ParamValue(PointKey(i)), &control.SPA.PointLevel[i], Through::FieldType);
 }
 

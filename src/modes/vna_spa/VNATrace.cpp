@@ -6,12 +6,11 @@
 #include "formats/Numbers.h"
 #include "formats/PowerUnits.h"
 #include "formats/TraceMode.h"
+#include "modes/vna_spa/SavedNumbers.h"
 #include "modes/vna_spa/VNAFields.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <system_error>
 
 namespace Traces {
 
@@ -77,17 +76,6 @@ void AppendPointKey(std::string& text, std::size_t point)
     text += PointKeyStem;
     AppendSignedNumberText(text, static_cast<std::int32_t>(point));
     text += ':';
-}
-
-/// Takes a plain number and the character behind it off the front of a text.
-bool TakeNumber(std::string_view& rest, float& number, char behind)
-{
-    const char* const end = rest.data() + rest.size();
-    const auto [stop, error] = std::from_chars(rest.data(), end, number);
-    if (error != std::errc() || stop == end || *stop != behind || !std::isfinite(number))
-        return false;
-    rest.remove_prefix(static_cast<std::size_t>(stop + 1 - rest.data()));
-    return true;
 }
 
 /// Reads the points' lines as a save writes them: one behind the other, with two plain numbers each. Stops

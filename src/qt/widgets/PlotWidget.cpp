@@ -1,5 +1,7 @@
 #include "qt/widgets/PlotWidget.h"
 
+#include "chart/Markers.h"
+#include "control/ChartMenu.h"
 #include "control/Control.h"
 #include "control/Input.h"
 #include "formats/HostFault.h"
@@ -197,6 +199,16 @@ void PlotWidget::PrintPreview()
 void PlotWidget::PrintOn(QPrinter* printer)
 {
     PrintOnPage(*printer, plot->Instance(), FittingPlace(*printer, plot->Instance()), platform->Fonts());
+}
+
+void PlotWidget::ChooseMenuItem(const char* name)
+{
+    Guarded([&](Control& control) {
+        const Menu menu = ChartMenu(control, FamilyMarkers(control));
+        const MenuChoice choice = {name};
+        const MenuItem* item = FindChosen(menu.Items, choice);
+        RunMenuItem(control, choice, item != nullptr && item->Checked);
+    });
 }
 
 void PlotWidget::Relayout()

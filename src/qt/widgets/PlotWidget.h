@@ -79,6 +79,9 @@ public Q_SLOTS:
     void PrintOn(QPrinter* printer);
     /// @}
 
+    /// What choosing an item of the chart's menu does, by its name there; the name of none does nothing.
+    void ChooseMenuItem(const char* name);
+
     /// The layout for the size at hand, as a resize would do it.
     void Relayout();
 

@@ -1,0 +1,282 @@
+#include "modes/cdma/CDMATrace.h"
+
+#include "control/Control.h"
+#include "control/TextLoader.h"
+#include "formats/FormatValue.h"
+#include "formats/LibraryValues.h"
+#include "formats/Numbers.h"
+#include "formats/Text.h"
+#include "modes/cdma/CDMAChart.h"
+#include "modes/cdma/CDMAFields.h"
+
+namespace Traces {
+
+namespace {
+
+void DecodeCodes(CDMARecord& record, const RawBuffer& buffer, double version)
+{
+    for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
+        const int code = static_cast<int>(i);
+        DecodeField(buffer, {CDMACodePowers + 4 * code, Read::U32, CodePowerScale, CodePowerBase},
+                    &record.CDPPower[i]);
+        DecodeField(buffer, {CDMALinks + code, Read::Byte}, &record.CDPLink[i]);
+        DecodeField(buffer, {CDMAChannelTypes + code, Read::Byte}, &record.CDPChannelType[i]);
+    }
+    for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i)
+        DecodeField(buffer,
+                    {CDMASpectrum + 2 * static_cast<int>(i), Read::U16, LevelScale, LevelBase(version)},
+                    &record.RFSpectrum[i]);
+}
+
+void DecodeText(const RawBuffer& buffer, int offset, int width, std::string& field)
+{
+    if (const auto text = ReadChars(buffer, offset, width))
+        field = CutAtNul(*text);
+}
+
+/// Takes the version over and reads what both layouts share.
+double BeginDecode(Control& control, const RawBuffer& buffer)
+{
+    CDMARecord& record = control.CDMA;
+    const double version = ValueOf(control.Header.Version);
+    Library().TraceVersionValue = record.VersionNumber = version;
+    const std::string standard = record.SignalStandard;
+    DecodeFields(buffer, record, CDMAHeadFields(version));
+    if (LevelVersion <= version) {
+        record.SignalStandard = standard;
+        DecodeText(buffer, StandardName, StandardNameWidth, record.SignalStandard);
+    }
+    return version;
+}
+
+/// False when the control is gone.
+bool EndDecode(Control& control, const RawBuffer& buffer, double version)
+{
+    DecodeCodes(control.CDMA, buffer, version);
+    TakeCDMAMarkers(control);
+    const LifeWatch life(control);
+    CDMAStatusMessage(control);
+    return !life.Gone();
+}
+
+void AddHeadLines(const CDMARecord& record, ParameterList& lines)
+{
+    for (const auto& field : CDMAHeadFields(LevelVersion)) {
+        if (field.Key == "Channel:") {
+            lines.AddLine(field.Key, NumberOrNA(record.Channel));
+            lines.AddLine("RefLelOffset CalStatus:", record.RefLevelOffsetCalStatus);
+        } else {
+            AddParamLine(lines, field.Key, field.Member.In(record));
+        }
+        if (field.Key == "Status Byte 3:")
+            lines.AddLine("Options:", CDMAModeText(record.StatusByte3));
+    }
+}
+
+void AddRows(const CDMARecord& record, ParameterList& lines)
+{
+    for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
+        std::string& line = lines.BeginLine();
+        line += CDMARowKey("CDP Data ", i) + '\t';
+        AppendNumberText(line, record.CDPPower[i]);
+        line += '\t' + NumberText(record.CDPLink[i]) + '\t' + CDMAChannelType.Text(record.CDPChannelType[i]);
+        lines.EndLine();
+    }
+    for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i) {
+        std::string& line = lines.BeginLine();
+        line += CDMARowKey("RF Spectrum Data ", i) + '\t';
+        AppendNumberText(line, record.RFSpectrum[i]);
+        lines.EndLine();
+    }
+}
+
+/// Keys that are the beginning of others, too, are looked up with their colon.
+std::string_view LookupKey(std::string_view key)
+{
+    for (const std::string_view whole : {"Channel:", "PN Offset:", "Tau:", "Noise Floor:"})
+        if (key == whole)
+            return key;
+    return key.substr(0, key.size() - 1);
+}
+
+/// A missing line leaves its field, a text as well as a number.
+void LoadTextField(std::string_view value, FieldRef field)
+{
+    if (!value.empty())
+        LoadField(value, field, Through::FieldType);
+}
+
+template <std::size_t Count>
+void LoadKeys(const TraceText& text, CDMARecord& record, const std::array<Field<CDMARecord>, Count>& fields)
+{
+    for (const auto& field : fields) {
+        // The two statuses aren't read back: they stay as the trace before left them.
+        if (field.Key == "Signal Status:" || field.Key == "Measurement Status:")
+            continue;
+        const std::string_view value = text.ParamValue(LookupKey(field.Key));
+        if (field.Key != "Channel:")
+            LoadTextField(value, field.Member.Of(record));
+        else if (const auto channel = NumberFromNA(value); channel && !value.empty())
+            record.Channel = *channel;
+    }
+    LoadTextField(text.ParamValue("RefLelOffset CalStatus"), &record.RefLevelOffsetCalStatus);
+}
+
+void LoadRows(const TraceText& text, CDMARecord& record)
+{
+    // A missing row takes the fields of the row before it: they stay in `fields`.
+    LineFields fields;
+    for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
+        text.ParamFields(CDMARowKey("CDP Data ", i), fields);
+        if (fields.UpperIndex != 2)
+            continue;
+        LoadField(fields.Parts[0], &record.CDPPower[i], Through::FieldType);
+        LoadField(fields.Parts[1], &record.CDPLink[i], Through::FieldType);
+        record.CDPChannelType[i] = static_cast<std::uint8_t>(CDMAChannelType.Code(fields.Parts[2]));
+    }
+    for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i)
+        LoadField(text.ParamValue(CDMARowKey("RF Spectrum Data ", i)), &record.RFSpectrum[i],
+                  Through::FieldType);
+}
+
+/// What both loaders do behind their keys. False when the control is gone.
+bool EndLoad(Control& control, const TraceText& text)
+{
+    CDMARecord& record = control.CDMA;
+    LoadRows(text, record);
+    control.CurrentMode = control.Header.Mode;
+    TakeCDMAMarkers(control);
+    const LifeWatch life(control);
+    CDMAStatusMessage(control);
+    if (life.Gone())
+        return false;
+    TryFillCDMACurve(control);
+    return true;
+}
+
+} // namespace
+
+std::string CDMARowKey(std::string_view stem, std::size_t row)
+{
+    return std::string(stem) + FormatValue(static_cast<std::int32_t>(row + 1), "000:");
+}
+
+void DecodeCDMATrace(Control& control, const RawBuffer& buffer)
+{
+    CDMARecord& record = control.CDMA;
+    const double version = BeginDecode(control, buffer);
+    DecodeFields(buffer, record, CDMAScanFields(version));
+    DecodeFields(buffer, record, CDMAPlaceFields);
+    DecodeField(buffer, CDMACalStatus, &record.RefLevelOffsetCalStatus);
+    if (!EndDecode(control, buffer, version))
+        return;
+    CDMAParams(control, control.lstParameters);
+    control.TraceSaved = false;
+}
+
+void DecodeCDMATrace_v320_above(Control& control, const RawBuffer& buffer)
+{
+    CDMARecord& record = control.CDMA;
+    const double version = BeginDecode(control, buffer);
+    DecodeFields(buffer, record, CDMAScanFields_v320_above(version));
+    DecodeFields(buffer, record, CDMAPlaceFields_v320_above);
+    DecodeField(buffer, CDMACalStatus_v320_above, &record.RefLevelOffsetCalStatus);
+    DecodeText(buffer, CDMAUTCTime, UTCTimeWidth, record.UTCTime);
+    DecodeField(buffer, CDMAValidPilots, &record.NoValidPilotScan);
+    if (!EndDecode(control, buffer, version))
+        return;
+    CDMAParams_v320_above(control, control.lstParameters);
+    control.TraceSaved = false;
+}
+
+void DecodeCDMATraceByVersion(Control& control, const RawBuffer& buffer)
+{
+    const bool newer = ValueOf(control.Header.Version) >= LayoutVersion;
+    return newer ? DecodeCDMATrace_v320_above(control, buffer) : DecodeCDMATrace(control, buffer);
+}
+
+void CDMAParams(const Control& control, ParameterList& lines)
+{
+    AddHeadLines(control.CDMA, lines);
+    AddParamLines(lines, control.CDMA, CDMAScanFields(LevelVersion));
+    AddParamLines(lines, control.CDMA, CDMAPlaceFields);
+    AddRows(control.CDMA, lines);
+}
+
+void CDMAParams_v320_above(const Control& control, ParameterList& lines)
+{
+    AddHeadLines(control.CDMA, lines);
+    AddParamLines(lines, control.CDMA, CDMAScanFields_v320_above(LayoutVersion));
+    AddParamLines(lines, control.CDMA, CDMAPlaceFields_v320_above);
+    lines.AddLine("UTC Time:", control.CDMA.UTCTime);
+    lines.AddLine("No Valid PilotScan:", NumberText(control.CDMA.NoValidPilotScan));
+    AddRows(control.CDMA, lines);
+}
+
+void CDMAParamsByVersion(const Control& control, ParameterList& lines)
+{
+    const bool newer = Library().TraceVersionValue >= LayoutVersion;
+    return newer ? CDMAParams_v320_above(control, lines) : CDMAParams(control, lines);
+}
+
+void LoadCDMAText(Control& control, std::string_view text, const std::string& path)
+{
+    const auto traceText = BeginTextLoad(control, text, path);
+    if (!traceText)
+        return;
+    CDMARecord& record = control.CDMA;
+    LoadField(traceText->ParamValue("Version"), &record.VersionNumber, Through::FieldType);
+    if (record.VersionNumber >= LayoutVersion)
+        return LoadCDMAText_v320_above(control, text, path);
+    Library().TraceVersionValue = record.VersionNumber;
+    LoadKeys(*traceText, record, CDMAHeadFields(LevelVersion));
+    LoadKeys(*traceText, record, CDMAScanFields(LevelVersion));
+    if (!EndLoad(control, *traceText))
+        return;
+    CDMAParams(control, control.lstParameters);
+    EndTextLoad(control);
+}
+
+void LoadCDMAText_v320_above(Control& control, std::string_view text, const std::string& path)
+{
+    const auto traceText = BeginTextLoad(control, text, path);
+    if (!traceText)
+        return;
+    CDMARecord& record = control.CDMA;
+    LoadField(traceText->ParamValue("Version"), &record.VersionNumber, Through::FieldType);
+    Library().TraceVersionValue = record.VersionNumber;
+    LoadKeys(*traceText, record, CDMAHeadFields(LayoutVersion));
+    LoadKeys(*traceText, record, CDMAScanFields_v320_above(LayoutVersion));
+    LoadKeys(*traceText, record, CDMAPlaceFields_v320_above);
+    LoadTextField(traceText->ParamValue("UTC Time:"), &record.UTCTime);
+    LoadField(traceText->ParamValue("No Valid PilotScan:"), &record.NoValidPilotScan, Through::Float);
+    if (!EndLoad(control, *traceText))
+        return;
+    CDMAParams_v320_above(control, control.lstParameters);
+    EndTextLoad(control);
+}
+
+bool IsGoodCDMAMeasurement(const Control& control)
+{
+    const CDMARecord& record = control.CDMA;
+    return MeasurementStatus.Code(record.SignalStatus) < 1 && ValidState.Code(record.MeasurementStatus) == 0;
+}
+
+void CDMAStatusMessage(Control& control)
+{
+    if (IsGoodCDMAMeasurement(control))
+        return;
+    const CDMARecord& record = control.CDMA;
+    control.Platform.MessageBox({"",
+                                 "Cannot display the CDMA Trace.\r\nSignal Status: " + record.SignalStatus +
+                                     "\r\nMeasurement Status: " + record.MeasurementStatus,
+                                 MessageIcon::Information});
+}
+
+GpsFix CDMAPosition(const Control& control)
+{
+    const CDMARecord& record = control.CDMA;
+    return {record.GpsLatitude, record.GpsLongitude, record.GpsAltitude, record.UTCTime};
+}
+
+} // namespace Traces

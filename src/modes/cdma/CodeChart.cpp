@@ -1,0 +1,123 @@
+#include "modes/cdma/CodeChart.h"
+
+#include "control/Control.h"
+#include "control/ViewText.h"
+#include "formats/CodeTable.h"
+#include "formats/HostFault.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Traces {
+
+namespace {
+
+constexpr Colour Red = RGB(255, 0, 0), Yellow = RGB(255, 255, 0), Blue = RGB(0, 0, 255);
+constexpr Colour ResultGround = RGB(255, 255, 200);
+constexpr float PanelTop = 360, PanelMiddle = 420, PanelBottom = 480;
+constexpr float CellEdge1 = 183, CellEdge2 = 366, PageWidth = 600;
+
+void CheckPoint(const TraceSlot& slot, std::size_t i)
+{
+    if (!std::isfinite(slot.X[i]) || !std::isfinite(slot.Y[i]))
+        throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
+}
+
+} // namespace
+
+std::string TitleOfPath(std::string_view traceName)
+{
+    if (traceName.starts_with("C:\\"))
+        traceName.remove_prefix(traceName.rfind('\\') + 1);
+    return std::string(traceName);
+}
+
+bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window)
+{
+    constexpr double margin = 0.01;
+    if (window.Xmin == window.Xmax || window.Ymin == window.Ymax)
+        return false;
+    const double width = static_cast<double>(window.Xmax - window.Xmin);
+    box.ScaleWidth = static_cast<float>(width * (1 + 2 * margin));
+    box.ScaleLeft = static_cast<float>(static_cast<double>(window.Xmin) - width * margin);
+    box.ScaleHeight = -(window.Ymax - window.Ymin);
+    box.ScaleTop = window.Ymax;
+    control.ZoomX1 = window.Xmin;
+    control.ZoomX2 = window.Xmax;
+    control.ZoomY1 = window.Ymin;
+    control.ZoomY2 = window.Ymax;
+    return true;
+}
+
+float HalfBarWidth(const Control& control, const ChartSurface& box)
+{
+    return box.ScaleWidth / static_cast<float>(std::max<std::int16_t>(control.TraceSlots[0].Length, 1)) / 2;
+}
+
+void DrawCodeBar(ChartSurface& box, Point top, float half, const ChartWindow& window, std::uint8_t type)
+{
+    box.FillBox(top.X - half, window.Ymin, top.X + half, top.Y, static_cast<Colour>(ChannelTypeColor(type)));
+    box.FillBox(top.X - half, top.Y, top.X + half, window.Ymax, Black);
+}
+
+void DrawSpectrumLines(const Control& control, ChartSurface& box)
+{
+    box.DrawStyle = LineStyle::Solid;
+    for (std::size_t t = 0; t < LiveSlots; ++t) {
+        const TraceSlot& slot = control.TraceSlots[t];
+        for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i) {
+            CheckPoint(slot, i - 1);
+            CheckPoint(slot, i);
+            box.Line(slot.X[i - 1], slot.Y[i - 1], slot.X[i], slot.Y[i], Yellow);
+        }
+    }
+}
+
+void DrawLevelLines(const Control& control, ChartSurface& box, const ChartWindow& window)
+{
+    constexpr int divisions = 10;
+    const float right = box.ScaleLeft + box.ScaleWidth;
+    box.DrawStyle = LineStyle::Dotted;
+    for (int line = 0; line <= divisions; ++line) {
+        const float y = window.Ymin + (window.Ymax - window.Ymin) * static_cast<float>(line) / divisions;
+        box.Line(box.ScaleLeft, y, right, y, control.GridColor);
+    }
+    box.DrawStyle = LineStyle::Solid;
+}
+
+void DrawCentredInChart(ChartSurface& box, const std::string& text, int y, int size)
+{
+    constexpr float extent = 100;
+    box.Scale(0, 0, extent, extent);
+    box.ForeColor = Red;
+    SetBoxFont(box, static_cast<float>(size), false);
+    box.CurrentX = (extent - box.TextWidth(text)) / 2;
+    box.CurrentY = static_cast<float>(y);
+    box.Print(text);
+}
+
+void DrawBadMeasurement(ChartSurface& box, const std::string& signal, const std::string& measurement)
+{
+    constexpr int size = 14;
+    DrawCentredInChart(box, signal, 40, size);
+    DrawCentredInChart(box, "Measurement Status: " + measurement, 50, size);
+}
+
+void DrawResultCells(ChartSurface& holder)
+{
+    holder.FillBox(0, PanelTop, PageWidth, PanelBottom, ResultGround);
+    holder.Line(0, PanelTop, PageWidth, PanelTop, Black);
+    holder.Line(0, PanelMiddle, PageWidth, PanelMiddle, Black);
+    holder.Line(CellEdge1, PanelTop, CellEdge1, PanelBottom, Black);
+    holder.Line(CellEdge2, PanelTop, CellEdge2, PanelBottom, Black);
+}
+
+void DrawResult(ChartSurface& holder, const Result& result)
+{
+    constexpr int labelSize = 10;
+    constexpr int valueBelow = 16;
+    DrawTextAt(holder, result.Label, result.X, result.Y, labelSize, false, Black);
+    DrawTextAt(holder, result.Value, result.X, result.Y + valueBelow, result.Size, false, Blue);
+}
+
+} // namespace Traces

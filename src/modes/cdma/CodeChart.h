@@ -1,0 +1,52 @@
+// What the charts and pages of the code domain families have in common: scale, bars, level lines, the page of
+// a measurement that is none.
+#pragma once
+
+#include "chart/ChartWindow.h"
+#include "control/ChartSurface.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace Traces {
+
+struct Control;
+
+/// A trace's title: of a path on drive C what stands behind its last backslash, anything else whole.
+std::string TitleOfPath(std::string_view traceName);
+
+/// Scales a chart to a window, a hundredth wider at both sides, and stores the window as the zoom's. False,
+/// with nothing changed, for one without a span.
+bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window);
+
+/// Half of what each point of slot 0 has of the chart's width.
+float HalfBarWidth(const Control& control, const ChartSurface& box);
+
+/// A bar from the window's foot to the point, in the colour of a channel's type, and black above it.
+void DrawCodeBar(ChartSurface& box, Point top, float half, const ChartWindow& window, std::uint8_t type);
+
+/// The points of every slot that has more than one, joined in yellow.
+void DrawSpectrumLines(const Control& control, ChartSurface& box);
+
+/// Ten dotted divisions of the levels.
+void DrawLevelLines(const Control& control, ChartSurface& box, const ChartWindow& window);
+
+/// The two statuses of a bad measurement, alone in the chart.
+void DrawBadMeasurement(ChartSurface& box, const std::string& signal, const std::string& measurement);
+
+/// A text centred in a chart whose system is 100 by 100.
+void DrawCentredInChart(ChartSurface& box, const std::string& text, int y, int size);
+
+/// The ground of the results below a chart: two rows of three cells.
+void DrawResultCells(ChartSurface& holder);
+
+/// A result: its label in black and its value in blue below it.
+struct Result {
+    int X, Y;
+    std::string Label, Value;
+    int Size;
+};
+void DrawResult(ChartSurface& holder, const Result& result);
+
+} // namespace Traces
