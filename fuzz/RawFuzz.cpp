@@ -102,6 +102,8 @@ void SetByHost(Plot& plot, std::uint8_t choice, std::span<const std::uint8_t, 4>
         plot.SetIndex(values[0]);
         Calls([&] { plot.PlotCurve(static_cast<std::int16_t>(values[1] % 5), x, y); });
     }
+    if ((choice & 32) != 0)
+        plot.ShowParams(true);
     if ((choice & 16) != 0)
         Calls([&] { plot.Resize(values[0] * 8, values[1] * 8); });
     if ((choice & 32) != 0)

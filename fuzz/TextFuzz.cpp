@@ -89,6 +89,15 @@ bool Returns(const Control& state, const FileKind& kind)
            ModeCode(ModeName(header.Mode)) == header.Mode;
 }
 
+/// Whether each value of the list stands in one line: a line feed in one may hide another key's line.
+bool ListReturns(const ParameterList& lines)
+{
+    for (std::size_t i = 0; i < lines.ListCount(); ++i)
+        if (lines.List(i).find('\n') != std::string_view::npos)
+            return false;
+    return true;
+}
+
 void LoadAndSave(const FileKind& kind, const std::string& file)
 {
     AcceptingPlatform platform;
@@ -101,7 +110,7 @@ void LoadAndSave(const FileKind& kind, const std::string& file)
     Check(FileOf(plot) == saved, "the list is built anew each time");
     plot.TraceInfo();
     SvgPicture(state);
-    if (!Returns(state, kind))
+    if (!Returns(state, kind) || !ListReturns(state.lstParameters))
         return;
     kind.Load(state, saved, {});
     Check(FileOf(plot) == saved, "a saved file loads and saves as it is", saved + FileOf(plot));

@@ -23,6 +23,8 @@ std::vector<Sample> VnaFrequencySamples();
 std::vector<Sample> VnaDistanceSamples();
 /// Spectrum analyzer, channel scanner and spectrogram.
 std::vector<Sample> SpectrumSamples();
+/// Power meter, power monitor and high accuracy power meter.
+std::vector<Sample> PowerSamples();
 
 /// Code domains of CDMA cells.
 std::vector<Sample> CdmaSamples();

@@ -27,6 +27,7 @@ struct Label {
     std::string Caption;
     Colour BackColor = Black;
     Colour ForeColor = White;
+    bool Centred = false; ///< in the middle of its rectangle, smaller where it is too wide for it
     Traces::Font Font;
 };
 

@@ -31,8 +31,21 @@ void SetColours(Control& control)
     control.idenHolder.BackColor = Grey;
     for (ChartSurface* box : control.ChartBoxes())
         box->BackColor = Black;
-    for (ChartSurface* box : {&control.ErrorsBox, &control.idenbox1, &control.idenbox2, &control.idenbox3})
+    for (ChartSurface* box :
+         {&control.PowerBar, &control.ErrorsBox, &control.idenbox1, &control.idenbox2, &control.idenbox3})
         box->BackColor = Black;
+}
+
+/// The levels stand in black on the panel that lies under them.
+void SetUpLevelLabels(Control& control)
+{
+    constexpr Colour panelGrey = RGB(170, 170, 170);
+    for (Label* label : {&control.PowerLabel, &control.ZephraPowerLabel, &control.ZephraPowerLabelUnit}) {
+        label->Visible = true;
+        label->BackColor = panelGrey;
+        label->ForeColor = Black;
+        label->Centred = true;
+    }
 }
 
 void Initialize(Control& control)
@@ -50,6 +63,7 @@ void Initialize(Control& control)
     control.EvDOMarkers.Holder = &control.EvDOHolder;
     control.SpectroMarkers.Holder = &control.SpectroHolder;
     SetColours(control);
+    SetUpLevelLabels(control);
     for (ChartSurface* holder : control.Holders())
         holder->Visible = false;
     control.ParamBox.Visible = false;

@@ -12,6 +12,8 @@
 #include "modes/cdma/CDMARecord.h"
 #include "modes/channel_scanner/CSRecord.h"
 #include "modes/evdo/EvDORecord.h"
+#include "modes/power/PowerRecord.h"
+#include "modes/power/ZephraRecord.h"
 #include "modes/spectrogram/SpectroRecord.h"
 #include "modes/vna_spa/SPARecord.h"
 #include "modes/vna_spa/VNARecord.h"
@@ -65,6 +67,10 @@ struct Control : private Screen, public ChildControls {
     SPARecord SPA;
     CSRecord CS;
     SpectroRecord Spectro;
+    PowerRecord Power;
+    ZephraRecord Zephra;
+    double PowerLadderValue = 0; ///< what the power views scaled last; a view may show it of the trace before
+    std::string PowerLadderUnit;
     CDMARecord CDMA;
     bool CDMAIs128 = false;      ///< the codes stand in bit-reversed order
     bool ChartHasMarkers = true; ///< of the CDMA chart: its spectrum has none

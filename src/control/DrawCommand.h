@@ -45,8 +45,10 @@ struct Pen {
 };
 
 struct Font {
+    static constexpr float UsualSize = 8.25F;
+
     std::string Name = "MS Sans Serif";
-    float Size = 8.25F; ///< points
+    float Size = UsualSize; ///< points
     bool Bold = false;
     bool Underline = false;
     bool operator==(const Font&) const = default;

@@ -35,6 +35,9 @@ public:
     /// Pages printed.
     std::vector<PagePlace> Pages;
 
+    /// What unscrambles a power meter's comma form.
+    std::array<std::uint8_t, 7> Scramble{};
+
     /// Progress forms opened and how many still are; the percentages shown, and the one from which on the
     /// user interrupts.
     std::vector<std::string> ProgressTitles;
@@ -58,6 +61,7 @@ public:
     void PropertyChanged(std::string_view name) override { ChangedProperties.emplace_back(name); }
     void Repaint() override {}
     const TextMetrics& Metrics() const override { return metrics; }
+    std::array<std::uint8_t, 7> ScrambleTable() const override { return Scramble; }
 
 private:
     std::optional<std::string> NextAnswer();

@@ -27,7 +27,11 @@ struct BoxPlace {
 struct LabelPlace {
     Label ChildControls::*Text;
     Rectangle Place;
+    float FontSize = Font::UsualSize; ///< points at the control's design size
 };
+
+/// A level that is read across a room.
+constexpr float LevelFontSize = 48;
 
 /// In holder coordinates. Boxes that a view places itself aren't listed.
 constexpr auto BoxPlaces = std::to_array<BoxPlace>({
@@ -48,9 +52,9 @@ constexpr auto BoxPlaces = std::to_array<BoxPlace>({
 });
 
 constexpr auto LabelPlaces = std::to_array<LabelPlace>({
-    {&ChildControls::PowerLabel, {50, 100, 450, 100}},
-    {&ChildControls::ZephraPowerLabel, {50, 100, 450, 100}},
-    {&ChildControls::ZephraPowerLabelUnit, {50, 240, 450, 100}},
+    {&ChildControls::PowerLabel, {50, 100, 450, 100}, LevelFontSize},
+    {&ChildControls::ZephraPowerLabel, {50, 100, 450, 100}, LevelFontSize},
+    {&ChildControls::ZephraPowerLabelUnit, {50, 240, 450, 100}, LevelFontSize},
     {&ChildControls::VppLabel, {50, 100, 450, 100}},
     {&ChildControls::VFFreqLabel, {90, 150, 370, 50}},
     {&ChildControls::VFPowerLabel, {90, 250, 370, 50}},
@@ -88,7 +92,7 @@ void LayOut(Control& control)
         Move(control.*place.Box, place.Place);
     for (const auto& place : LabelPlaces) {
         Move(control.*place.Text, place.Place);
-        (control.*place.Text).Font.Size = Font{}.Size * control.ScreenFacts().FontScaleFactor;
+        (control.*place.Text).Font.Size = place.FontSize * control.ScreenFacts().FontScaleFactor;
     }
     Move(control.ParamBox, {PaneLeft + margin, margin, PaneWidth, HolderHeight});
     control.ParamBox.Scale(0, 0, PaneWidth, HolderHeight);

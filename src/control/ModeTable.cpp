@@ -10,6 +10,10 @@
 #include "modes/evdo/EvDOChart.h"
 #include "modes/evdo/EvDOTrace.h"
 #include "modes/evdo/EvDOView.h"
+#include "modes/power/PowerMeterTrace.h"
+#include "modes/power/PowerMonitorTrace.h"
+#include "modes/power/PowerView.h"
+#include "modes/power/ZephraTrace.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/spectrogram/SpectroView.h"
 #include "modes/vna_spa/SPATrace.h"
@@ -109,6 +113,44 @@ constexpr ModeRow SpectrogramSweep = {
     .DoubleClick = ToggleSweepView,
 };
 
+// Power readings, which have no curve. Only the power meter's go back to the instrument.
+
+constexpr FileKind PMETFile = {"PMET", LoadPowerMeterText, EncodePowerMeterText};
+constexpr FileKind PMFile = {"PM", LoadPowerMeterText, EncodePowerMeterText};
+constexpr FileKind PMONFile = {"PMON", LoadPowerMonitorText, nullptr};
+constexpr FileKind HIPMFile = {"HIPM", LoadPowerMeter_Zephra_Text, nullptr};
+
+constexpr ModeRow PowerMeter = {
+    .Mode = TraceMode::PowerMeter,
+    .Holder = &ChildControls::PMHolder,
+    .Decode = DecodePowerMeter,
+    .Params = PowerMeterParams,
+    .View = DrawPowerMeterTrace,
+    .EncodeRecord = EncodePowerMeterRecord,
+    .EncodeRaw = EncodePowerMeterRaw,
+    .Position = PowerMeterPosition,
+    .TextFile = &PMETFile,
+};
+
+constexpr ModeRow PowerMonitor = {
+    .Mode = TraceMode::PowerMonitor,
+    .Holder = &ChildControls::PMHolder,
+    .Decode = DecodePowerMonitor,
+    .Params = PowerMonitorParams,
+    .View = DrawPowerMonitorTrace,
+    .TextFile = &PMONFile,
+};
+
+constexpr ModeRow HighAccuracyPower = {
+    .Mode = TraceMode::HighAccuracyPower,
+    .Holder = &ChildControls::ZephraHolder,
+    .Decode = DecodeZephra,
+    .Params = ZephraParams,
+    .View = DrawZephraTrace,
+    .Position = PowerMeterPosition,
+    .TextFile = &HIPMFile,
+};
+
 // CDMA.
 
 constexpr FileKind CDMAFile = {"CDMA", LoadCDMAText, EncodeCDMAText};
@@ -163,13 +205,16 @@ constexpr ModeRow Modes[] = {
     ChannelScan,
     SpectrogramMap,
     SpectrogramSweep,
+    PowerMeter,
+    PowerMonitor,
+    HighAccuracyPower,
     CodeDomain,
     DataOptimized,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
-    VNAFile, SPAFile, CSFile, SpectroFile, CDMAFile, EvDOFile,
+    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile, EvDOFile,
 };
 
 } // namespace

@@ -14,6 +14,9 @@
 #include "modes/cdma/CDMATrace.h"
 #include "modes/evdo/EvDOTrace.h"
 #include "modes/channel_scanner/CSTrace.h"
+#include "modes/power/PowerMeterTrace.h"
+#include "modes/power/PowerMonitorTrace.h"
+#include "modes/power/ZephraTrace.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
@@ -127,6 +130,26 @@ void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
 void Plot::LoadSpectroText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadSpectroText(*control, TraceString, path);
+}
+
+void Plot::LoadPowerMeterText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadPowerMeterText(*control, TraceString, path);
+}
+
+void Plot::LoadPowerMonitorText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadPowerMonitorText(*control, TraceString, path);
+}
+
+void Plot::LoadPowerMeter_Zephra_Text(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadPowerMeter_Zephra_Text(*control, TraceString, path);
+}
+
+void Plot::LoadPowerMeterDat(std::string_view TraceString)
+{
+    Traces::LoadPowerMeterDat(*control, TraceString);
 }
 
 std::string Plot::GetUpLoadTrace(const std::string& TraceName)

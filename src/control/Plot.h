@@ -68,6 +68,12 @@ public:
     void LoadEvDOText_v320_above(std::string_view TraceString, const std::string& path);
     void LoadCSText(std::string_view TraceString, const std::string& path);
     void LoadSpectroText(std::string_view TraceString, const std::string& path);
+    void LoadPowerMeterText(std::string_view TraceString, const std::string& path);
+    void LoadPowerMonitorText(std::string_view TraceString, const std::string& path);
+    void LoadPowerMeter_Zephra_Text(std::string_view TraceString, const std::string& path);
+
+    /// Loads the power meter's comma form, unscrambled by Platform::ScrambleTable. It has no checksum.
+    void LoadPowerMeterDat(std::string_view TraceString);
     /// @}
 
     /// @name Upload frames

@@ -104,8 +104,10 @@ void ShowContent(Control& control, std::string_view content, std::string_view ti
         ShowTrace(control, RawBuffer::FromText(content));
     } else if (const FileKind* kind = TextFileKind(control.Families, content, problem)) {
         kind->Load(control, content, {});
-        // The loader lists the header alone.
-        RebuildParameters(control);
+        // The sweeps' loader lists the header alone. What the others list is theirs to choose.
+        constexpr std::size_t headerLines = 8;
+        if (control.lstParameters.ListCount() == headerLines)
+            RebuildParameters(control);
     }
 }
 

@@ -77,12 +77,13 @@ void DecodeField(const RawBuffer& buffer, const RawForm& form, FieldRef field)
     const auto raw = ReadNumber(buffer, form);
     if (!raw)
         return;
+    const double number = *raw / form.Divisor + form.Then;
     if (form.Table) {
-        if (const auto code = RoundTo<std::int32_t>(*raw))
+        if (const auto code = RoundTo<std::int32_t>(number))
             *std::get<std::string*>(field) = form.Table->Text(*code);
         return;
     }
-    std::visit([&](auto* value) { StoreNumber(*value, *raw / form.Divisor + form.Then); }, field);
+    std::visit([&](auto* value) { StoreNumber(*value, number); }, field);
 }
 
 void AddParamLine(ParameterList& lines, std::string_view key, FieldView field)

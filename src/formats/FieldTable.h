@@ -89,7 +89,7 @@ inline constexpr Member<typename Detail::OwnerOf<decltype(First)>::Type> At = {
     &Detail::Path<First, Rest...>::template In<typename Detail::OwnerOf<decltype(First)>::Type>,
     Detail::Path<First, Rest...>::template IsText<typename Detail::OwnerOf<decltype(First)>::Type>};
 
-/// How a field's raw number becomes its value: raw / Divisor + Then, or the text of Table for it.
+/// How a field's raw number becomes its value: raw / Divisor + Then, or the text that Table has for that.
 struct RawForm {
     int Offset = 0; ///< in the raw trace, from 1
     Read Reader = Read::U32;

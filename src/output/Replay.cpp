@@ -193,9 +193,28 @@ private:
         const DeviceRect rect = {place.Left, place.Top, place.Left + place.Width, place.Top + place.Height};
         canvas.PushClip(rect);
         canvas.Fill(rect, label.BackColor);
-        canvas.Text({place.Left, place.Top}, label.Caption, label.Font,
-                    static_cast<double>(label.Font.Size) * pointSize, label.ForeColor);
+        const CaptionPlace caption =
+            label.Centred ? CentredCaption(label, place) : CaptionPlace{{place.Left, place.Top}, label.Font};
+        canvas.Text(caption.TopLeft, label.Caption, caption.Font,
+                    static_cast<double>(caption.Font.Size) * pointSize, label.ForeColor);
         canvas.PopClip();
+    }
+
+    struct CaptionPlace {
+        DevicePoint TopLeft;
+        Traces::Font Font;
+    };
+
+    CaptionPlace CentredCaption(const Label& label, const Place& place) const
+    {
+        const TextMetrics& metrics = *label.Parent.Screen().Metrics;
+        Font font = label.Font;
+        const double tooWide = metrics.TextWidth(label.Caption, font) * pointSize / place.Width;
+        if (tooWide > 1)
+            font.Size = static_cast<float>(static_cast<double>(font.Size) / tooWide);
+        const double width = metrics.TextWidth(label.Caption, font) * pointSize;
+        const double height = metrics.TextHeight(font) * pointSize;
+        return {{place.Left + (place.Width - width) / 2, place.Top + (place.Height - height) / 2}, font};
     }
 
     Canvas& canvas;

@@ -155,6 +155,24 @@ Json MenuItemCall(Script& script, const ScriptValues& values)
     return NoResult();
 }
 
+/// The seven bytes that unscramble what LoadPowerMeterDat is given.
+Json SetScrambleTable(Script& script, const ScriptValues& values)
+{
+    const std::vector<float>& numbers = values.Numbers(0);
+    auto& table = script.Platform().Scramble;
+    if (numbers.size() != table.size())
+        return Error("ScrambleTable takes seven numbers");
+    std::array<std::uint8_t, 7> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const auto byte = RoundTo<std::uint8_t>(static_cast<double>(numbers[i]));
+        if (!byte)
+            throw HostFault(FaultKind::Overflow, "a scramble value doesn't fit a byte");
+        bytes[i] = *byte;
+    }
+    table = bytes;
+    return NoResult();
+}
+
 /// A name that may be left out is empty.
 std::string NameOrEmpty(Values values)
 {
@@ -177,6 +195,11 @@ constexpr ScriptMember Members[] = {
     {"LoadEvDOText_v320_above", "file", LoadText<&Plot::LoadEvDOText_v320_above>},
     {"LoadCSText",      "file",      LoadText<&Plot::LoadCSText>},
     {"LoadSpectroText", "file",      LoadText<&Plot::LoadSpectroText>},
+    {"LoadPowerMeterText", "file",   LoadText<&Plot::LoadPowerMeterText>},
+    {"LoadPowerMonitorText", "file", LoadText<&Plot::LoadPowerMonitorText>},
+    {"LoadPowerMeter_Zephra_Text", "file", LoadText<&Plot::LoadPowerMeter_Zephra_Text>},
+    {"LoadPowerMeterDat", "file",    [](Script& s, Values v) { s.Plot().LoadPowerMeterDat(v.Text(0)); return NoResult(); }},
+    {"ScrambleTable",   "numbers",   SetScrambleTable},
     {"LoadRawTrace",    "name",      [](Script& s, Values v) { return Result(s.Plot().LoadRawTrace(v.Text(0))); }},
     {"SaveTrace",       "[name]",    [](Script& s, Values v) { return Saved(NameOrEmpty(v), [&](std::string& name) { return s.Plot().SaveTrace(name); }); }},
     {"SaveRawTrace",    "file name", [](Script& s, Values v) { return Saved(v.Text(1), [&](std::string& name) { return s.Plot().SaveRawTrace(v.Text(0), name); }); }},

@@ -89,6 +89,8 @@ constexpr StateField Fields[] = {
     {"Time",                OfHeader<&TraceHeader::Time>},
     {"RefNumber",           OfHeader<&TraceHeader::RefNumber>},
     {"DataPoints",          OfHeader<&TraceHeader::DataPoints>},
+    {"PowerLadderValue",    Of<&Control::PowerLadderValue>},
+    {"PowerLadderUnit",     Of<&Control::PowerLadderUnit>},
     {"CurrentMode",         Of<&Control::CurrentMode>},
     {"DisplayMarkerValues", Of<&Control::DisplayMarkerValues>, "boolean", [](Plot& plot, const ScriptValues& v) { plot.DisplayMarkerValues(v.Boolean(0)); }},
     {"TraceSaved",          Of<&Control::TraceSaved>},

@@ -113,6 +113,11 @@ void PlotWidget::SetPrinter(QPrinter* printer)
     platform->Printer = printer;
 }
 
+void PlotWidget::SetScrambleTable(const std::array<std::uint8_t, 7>& table)
+{
+    platform->Scramble = table;
+}
+
 QColor PlotWidget::BackColor() const
 {
     return ScreenColour(plot->BackColor());

@@ -7,6 +7,8 @@
 #include <QColor>
 #include <QWidget>
 
+#include <array>
+#include <cstdint>
 #include <memory>
 
 class QPagedPaintDevice;
@@ -41,6 +43,10 @@ public:
 
     /// What PrintTrace prints on from now on; not owned. Null asks the user each time, as at first.
     void SetPrinter(QPrinter* printer);
+
+    /// The seven values that unscramble what LoadPowerMeterDat is given from now on; all zero at first, for a
+    /// text that isn't scrambled.
+    void SetScrambleTable(const std::array<std::uint8_t, 7>& table);
 
     /// The stored properties; see Plot. Forms ask for setters of these names. ShowParams shows with the next
     /// resize, AutoScaleY with the next redraw.

@@ -33,6 +33,9 @@ public:
     /// What PrintTrace prints on; not owned. Without one the user is asked.
     QPrinter* Printer = nullptr;
 
+    /// What unscrambles a power meter's comma form.
+    std::array<std::uint8_t, 7> Scramble{};
+
     void MessageBox(const Message& message) override;
     std::optional<std::string> GetSaveFileNameA(const SaveDialog& dialog) override;
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
@@ -51,6 +54,7 @@ public:
     void Repaint() override;
     void DoEvents() override;
     const TextMetrics& Metrics() const override { return pictures.Metrics(); }
+    std::array<std::uint8_t, 7> ScrambleTable() const override { return Scramble; }
 
     QtPictures& Pictures() { return pictures; }
     SizedFonts& Fonts() { return fonts; }
