@@ -12,6 +12,7 @@
 #include "modes/cdma/CDMARecord.h"
 #include "modes/channel_scanner/CSRecord.h"
 #include "modes/evdo/EvDORecord.h"
+#include "modes/gsm/GSMRecord.h"
 #include "modes/power/PowerRecord.h"
 #include "modes/power/ZephraRecord.h"
 #include "modes/spectrogram/SpectroRecord.h"
@@ -72,6 +73,7 @@ struct Control : private Screen, public ChildControls {
     double PowerLadderValue = 0; ///< what the power views scaled last; a view may show it of the trace before
     std::string PowerLadderUnit;
     CDMARecord CDMA;
+    GSMRecord GSM;
     bool CDMAIs128 = false;      ///< the codes stand in bit-reversed order
     bool ChartHasMarkers = true; ///< of the CDMA chart: its spectrum has none
     EvDORecord EvDO;

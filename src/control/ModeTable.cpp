@@ -14,6 +14,9 @@
 #include "modes/power/PowerMonitorTrace.h"
 #include "modes/power/PowerView.h"
 #include "modes/power/ZephraTrace.h"
+#include "modes/gsm/GSMChart.h"
+#include "modes/gsm/GSMTrace.h"
+#include "modes/gsm/GSMView.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/spectrogram/SpectroView.h"
 #include "modes/vna_spa/SPATrace.h"
@@ -173,6 +176,25 @@ constexpr ModeRow CodeDomain = {
     .TextFile = &CDMAFile,
 };
 
+// GSM.
+
+constexpr FileKind GSMFile = {"GSM", LoadGSMText, EncodeGSMText};
+
+constexpr ModeRow Burst = {
+    .Mode = TraceMode::GSM,
+    .Holder = &ChildControls::GSMHolder,
+    .Markers = &Control::GSMMarkers,
+    .MenuItems = GSMMenuItems,
+    .Decode = DecodeGSMTrace,
+    .FillCurve = FillGSMCurve,
+    .Params = GSMParams,
+    .View = DrawGSMTrace,
+    .EncodeRecord = EncodeGSMRecord,
+    .EncodeRaw = EncodeGSMRaw,
+    .Position = GSMPosition,
+    .TextFile = &GSMFile,
+};
+
 // EV-DO.
 
 constexpr FileKind EvDOFile = {"EVDO", LoadEvDOText, EncodeEvDOText};
@@ -209,12 +231,13 @@ constexpr ModeRow Modes[] = {
     PowerMonitor,
     HighAccuracyPower,
     CodeDomain,
+    Burst,
     DataOptimized,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
-    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile, EvDOFile,
+    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile, GSMFile, EvDOFile,
 };
 
 } // namespace

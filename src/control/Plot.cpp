@@ -17,6 +17,7 @@
 #include "modes/power/PowerMeterTrace.h"
 #include "modes/power/PowerMonitorTrace.h"
 #include "modes/power/ZephraTrace.h"
+#include "modes/gsm/GSMTrace.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
@@ -125,6 +126,11 @@ void Plot::LoadEvDOText_v320_above(std::string_view TraceString, const std::stri
 void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadCSText(*control, TraceString, path);
+}
+
+void Plot::LoadGSMText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadGSMText(*control, TraceString, path);
 }
 
 void Plot::LoadSpectroText(std::string_view TraceString, const std::string& path)

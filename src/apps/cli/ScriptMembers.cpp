@@ -194,6 +194,7 @@ constexpr ScriptMember Members[] = {
     {"LoadEvDOText",    "file",      LoadText<&Plot::LoadEvDOText>},
     {"LoadEvDOText_v320_above", "file", LoadText<&Plot::LoadEvDOText_v320_above>},
     {"LoadCSText",      "file",      LoadText<&Plot::LoadCSText>},
+    {"LoadGSMText",     "file",      LoadText<&Plot::LoadGSMText>},
     {"LoadSpectroText", "file",      LoadText<&Plot::LoadSpectroText>},
     {"LoadPowerMeterText", "file",   LoadText<&Plot::LoadPowerMeterText>},
     {"LoadPowerMonitorText", "file", LoadText<&Plot::LoadPowerMonitorText>},

@@ -1,0 +1,88 @@
+// The upload frames of a GSM trace: the raw layout 13 bytes lower.
+#include "control/Control.h"
+#include "formats/CodeTable.h"
+#include "formats/Numbers.h"
+#include "formats/Text.h"
+#include "formats/TraceMode.h"
+#include "formats/UploadFrame.h"
+#include "modes/gsm/GSMFields.h"
+#include "modes/gsm/GSMTrace.h"
+
+namespace Traces {
+
+namespace {
+
+constexpr int FrameLength = 2562;
+constexpr int FrameShift = 13;
+
+void PutLevel(UploadFrame& frame, const GSMCurveField& curve, std::size_t point, double level, double bias)
+{
+    const int position = curve.Offset - FrameShift + 2 * static_cast<int>(point);
+    frame.Put(position, PutI16(level * GSMLevelScale + bias));
+}
+
+/// The status of the reference offset stands in the record route's frames alone, as the name in front of it.
+constexpr std::string_view RecordRouteKey = "RefLelOffset CalStatus:";
+
+void PutTextField(UploadFrame& frame, const TraceText& text, const Field<GSMRecord>& field)
+{
+    const int position = field.Offset - FrameShift;
+    const std::string_view value = text.ParamValue(field.Key);
+    if (field.Key == "Channel:")
+        frame.Put(position, PutI16(NumberFromNA(value).value_or(0)));
+    else if (field.Key == "Display Units:")
+        frame.Put(position, PutByte(GSMUnits.Code(value)));
+    else if (field.Key != RecordRouteKey)
+        EncodeFieldText(frame, position, field.Form(), text, field.Key);
+}
+
+} // namespace
+
+std::string EncodeGSMRecord(const Control& control)
+{
+    const GSMRecord& record = control.GSM;
+    const double bias = GSMLevelBias(control.Header.Version);
+    UploadFrame frame(FrameLength);
+    PutFrameHead(frame, control.Header);
+    EncodeFields(frame, record, GSMFields(bias), FrameShift);
+    frame.Put(GSMStandardName - FrameShift, FixedText(record.SignalStandard, GSMStandardNameWidth));
+    for (const GSMCurveField& curve : GSMCurves)
+        for (std::size_t i = 0; i < GSMRecord::Points; ++i)
+            PutLevel(frame, curve, i, (record.*curve.Curve)[i], bias);
+    return frame.Bytes();
+}
+
+std::string EncodeGSMText(std::string_view file)
+{
+    constexpr std::size_t versionWidth = 4;
+    const TraceText text(file);
+    const double bias = GSMLevelBias(FixedText(text.ParamValue("Version:"), versionWidth));
+    UploadFrame frame(FrameLength);
+    PutFrameHeadFromText(frame, TraceMode::GSM, text);
+    for (const auto& field : GSMFields(bias))
+        PutTextField(frame, text, field);
+    for (std::size_t i = 0; i < GSMRecord::Points; ++i) {
+        LineFields fields;
+        if (!text.ParamFields(GSMPointKey(i), fields) || fields.Parts.size() != std::size(GSMCurves))
+            continue;
+        for (std::size_t c = 0; c < std::size(GSMCurves); ++c)
+            PutLevel(frame, GSMCurves[c], i, ValueOf(fields.Parts[c]), bias);
+    }
+    return frame.Bytes();
+}
+
+std::string EncodeGSMRaw(std::string_view file)
+{
+    // Stretches of the file that are carried, by offset and count. The gaps between them stay blank.
+    constexpr struct {
+        int Source, Count;
+    } stretches[] = {{16, 1},  {17, 4},   {21, 10},   {31, 8},    {39, 16},   {55, 2},
+                     {57, 30}, {127, 14}, {157, 802}, {959, 802}, {1761, 802}};
+    UploadFrame frame(FrameLength);
+    frame.Put(1, PutI16(FrameLength));
+    for (const auto& stretch : stretches)
+        CopyFileBytes(file, frame, stretch.Source, stretch.Source - FrameShift, stretch.Count);
+    return frame.Bytes();
+}
+
+} // namespace Traces
