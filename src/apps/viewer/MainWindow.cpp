@@ -37,7 +37,6 @@ namespace Traces::Viewer {
 namespace {
 
 constexpr int MostRecent = 10;
-constexpr int DesignWidth = 550, DesignHeight = 480, WidthWithPane = 911;
 
 QString ScreenText(std::string_view text)
 {
