@@ -5,6 +5,7 @@
 #include "formats/Numbers.h"
 #include "modes/power/PowerLadder.h"
 #include "modes/power/PowerPanel.h"
+#include "output/Describe.h"
 #include "support/RawPower.h"
 
 #include <algorithm>
@@ -130,6 +131,7 @@ TEST_F(PowerView, AMetersPanelIsDrawnFromItsFrameToItsFoot)
               "237,4 PMET-CH35|w70,42 Power Meter|w56,86 Power|w60,304 -40|w160,304 -35|w260,304 -30|"
               "2,424 Center=599.25 MHz|2,442 Span=6.50 MHz|2,460 Relative:OFF|"
               "275,424 Std=UHF TV channel 35|275,442 Channel=35|275,460 Offset:ON");
+    EXPECT_EQ(DescribePlot(state), "Power Meter Mode \"CH35\", -36.57 dBm.");
     EXPECT_FALSE(state.PMHolder.AutoRedraw || state.PowerBar.AutoRedraw);
     MouseDown(state, SurfaceAt(state, 200, 150), 2, 0, 200, 150); // on the level
     MouseDown(state, state.PowerBar, 2, 0, 5, 1);
