@@ -29,6 +29,9 @@ std::vector<Sample> PowerSamples();
 /// Code domains of CDMA cells.
 std::vector<Sample> CdmaSamples();
 
+/// MAC and data codes of EV-DO sectors.
+std::vector<Sample> EvdoSamples();
+
 /// value with a fixed number of decimals, whatever the locale.
 std::string Fixed(double value, int decimals);
 /// value with at most four decimals and no trailing zeros.

@@ -207,7 +207,9 @@ Sample Spectrogram(std::size_t count, const char* file, const char* shows, const
     settings.Gps = CoastSite;
     SteadyRandom random(8887);
     std::vector<double> hops;
-    for (int hop = 0; hop < 20; ++hop)
+    constexpr int allHops = 20;
+    hops.reserve(allHops);
+    for (int hop = 0; hop < allHops; ++hop)
         hops.push_back(440.5e6 + 25e3 * std::floor(random.Uniform() * 360));
     std::vector<TimedSweep> sweeps;
     std::uint32_t time = 0;

@@ -11,6 +11,7 @@
 #include "formats/TraceHeader.h"
 #include "modes/cdma/CDMARecord.h"
 #include "modes/channel_scanner/CSRecord.h"
+#include "modes/evdo/EvDORecord.h"
 #include "modes/power/PowerRecord.h"
 #include "modes/power/ZephraRecord.h"
 #include "modes/spectrogram/SpectroRecord.h"
@@ -71,9 +72,12 @@ struct Control : private Screen, public ChildControls {
     double PowerLadderValue = 0; ///< what the power views scaled last; a view may show it of the trace before
     std::string PowerLadderUnit;
     CDMARecord CDMA;
-    bool CDMAIs128 = false;        ///< the codes stand in bit-reversed order
-    bool ChartHasMarkers = true;   ///< of the CDMA chart: its spectrum has none
-    std::int16_t CurrentMode = -1; ///< what RedrawTrace shows; -1 until the first trace is accepted
+    bool CDMAIs128 = false;      ///< the codes stand in bit-reversed order
+    bool ChartHasMarkers = true; ///< of the CDMA chart: its spectrum has none
+    EvDORecord EvDO;
+    bool EvDOIs128 = false;
+    bool EvDOChartHasMarkers = false; ///< its code domain has, its other pages don't
+    std::int16_t CurrentMode = -1;    ///< what RedrawTrace shows; -1 until the first trace is accepted
     bool DisplayMarkerValues = true;
     bool TraceSaved = false; ///< the trace on show stands in a file that the user confirmed
 

@@ -7,6 +7,9 @@
 #include "modes/cdma/CDMAView.h"
 #include "modes/channel_scanner/CSTrace.h"
 #include "modes/channel_scanner/CSView.h"
+#include "modes/evdo/EvDOChart.h"
+#include "modes/evdo/EvDOTrace.h"
+#include "modes/evdo/EvDOView.h"
 #include "modes/power/PowerMeterTrace.h"
 #include "modes/power/PowerMonitorTrace.h"
 #include "modes/power/PowerView.h"
@@ -170,6 +173,27 @@ constexpr ModeRow CodeDomain = {
     .TextFile = &CDMAFile,
 };
 
+// EV-DO.
+
+constexpr FileKind EvDOFile = {"EVDO", LoadEvDOText, EncodeEvDOText};
+
+constexpr ModeRow DataOptimized = {
+    .Mode = TraceMode::EvDO,
+    .Holder = &ChildControls::EvDOHolder,
+    .Markers = &Control::EvDOMarkers,
+    .MarkerText = EvDOMarkerText,
+    .MenuItems = EvDOMenuItems,
+    .Decode = DecodeEvDOTraceByVersion,
+    .DecodeToSave = DecodeEvDOTrace,
+    .FillCurve = FillEvDOCurve,
+    .Params = EvDOParamsByVersion,
+    .View = DrawEvDOTrace,
+    .EncodeRecord = EncodeEvDORecord,
+    .EncodeRaw = EncodeEvDORaw,
+    .Position = EvDOPosition,
+    .TextFile = &EvDOFile,
+};
+
 constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLFrequency),
     Sweep(TraceMode::SWRFrequency),
@@ -185,11 +209,12 @@ constexpr ModeRow Modes[] = {
     PowerMonitor,
     HighAccuracyPower,
     CodeDomain,
+    DataOptimized,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
-    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile,
+    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile, EvDOFile,
 };
 
 } // namespace

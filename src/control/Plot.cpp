@@ -12,6 +12,7 @@
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "modes/cdma/CDMATrace.h"
+#include "modes/evdo/EvDOTrace.h"
 #include "modes/channel_scanner/CSTrace.h"
 #include "modes/power/PowerMeterTrace.h"
 #include "modes/power/PowerMonitorTrace.h"
@@ -109,6 +110,16 @@ void Plot::LoadCDMAText(std::string_view TraceString, const std::string& path)
 void Plot::LoadCDMAText_v320_above(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadCDMAText_v320_above(*control, TraceString, path);
+}
+
+void Plot::LoadEvDOText(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadEvDOText(*control, TraceString, path);
+}
+
+void Plot::LoadEvDOText_v320_above(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadEvDOText_v320_above(*control, TraceString, path);
 }
 
 void Plot::LoadCSText(std::string_view TraceString, const std::string& path)

@@ -64,6 +64,8 @@ public:
     void LoadSPAText(std::string_view TraceString, const std::string& path);
     void LoadCDMAText(std::string_view TraceString, const std::string& path);
     void LoadCDMAText_v320_above(std::string_view TraceString, const std::string& path);
+    void LoadEvDOText(std::string_view TraceString, const std::string& path);
+    void LoadEvDOText_v320_above(std::string_view TraceString, const std::string& path);
     void LoadCSText(std::string_view TraceString, const std::string& path);
     void LoadSpectroText(std::string_view TraceString, const std::string& path);
     void LoadPowerMeterText(std::string_view TraceString, const std::string& path);

@@ -112,6 +112,22 @@ void PutFrameHeadFromText(UploadFrame& frame, std::uint8_t mode, const TraceText
     frame.Put(42, PutI16FromText(text, "DataPoints:", 1, 0));
 }
 
+int PutFrameHeadFromRaw(UploadFrame& frame, std::string_view file)
+{
+    constexpr int countPosition = 42;
+    frame.Put(1, PutI16(frame.Length()));
+    CopyFileBytes(file, frame, 16, 3, 1);
+    CopyFileBytes(file, frame, 17, 4, 4);
+    CopyFileBytes(file, frame, 21, 8, 10);
+    CopyFileBytes(file, frame, 31, 18, 8);
+    CopyFileBytes(file, frame, 39, 26, 16);
+    CopyFileBytes(file, frame, 55, countPosition, 2);
+    const auto byteAt = [&](int position) {
+        return static_cast<unsigned char>(frame.Bytes()[static_cast<std::size_t>(position - 1)]);
+    };
+    return byteAt(countPosition) * 256 + byteAt(countPosition + 1);
+}
+
 void CopyFileBytes(std::string_view file, UploadFrame& frame, int source, int target, int count)
 {
     std::string copied(static_cast<std::size_t>(std::max(count, 0)), '\0');

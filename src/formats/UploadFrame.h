@@ -53,6 +53,9 @@ void PutFrameHead(UploadFrame& frame, const TraceHeader& header);
 /// The head of a text route, which takes the mode byte from the encoder and the rest from the file's lines.
 void PutFrameHeadFromText(UploadFrame& frame, std::uint8_t mode, const TraceText& text);
 
+/// The head of a raw route: the file's own mode, word, date, time, reference and point count. That count.
+int PutFrameHeadFromRaw(UploadFrame& frame, std::string_view file);
+
 /// Copies `count` bytes of a raw file, from a source offset that counts from 1, to a frame position. Bytes
 /// behind the file's end copy as zero.
 /// @throws HostFault Range when the target lies outside of the frame.

@@ -191,6 +191,8 @@ constexpr ScriptMember Members[] = {
     {"LoadSPAText",     "file",      LoadText<&Plot::LoadSPAText>},
     {"LoadCDMAText",    "file",      LoadText<&Plot::LoadCDMAText>},
     {"LoadCDMAText_v320_above", "file", LoadText<&Plot::LoadCDMAText_v320_above>},
+    {"LoadEvDOText",    "file",      LoadText<&Plot::LoadEvDOText>},
+    {"LoadEvDOText_v320_above", "file", LoadText<&Plot::LoadEvDOText_v320_above>},
     {"LoadCSText",      "file",      LoadText<&Plot::LoadCSText>},
     {"LoadSpectroText", "file",      LoadText<&Plot::LoadSpectroText>},
     {"LoadPowerMeterText", "file",   LoadText<&Plot::LoadPowerMeterText>},

@@ -2,12 +2,11 @@
 
 #include "control/Control.h"
 #include "control/TextLoader.h"
-#include "formats/FormatValue.h"
 #include "formats/LibraryValues.h"
 #include "formats/Numbers.h"
-#include "formats/Text.h"
 #include "modes/cdma/CDMAChart.h"
 #include "modes/cdma/CDMAFields.h"
+#include "modes/cdma/CodeRoutes.h"
 
 namespace Traces {
 
@@ -28,12 +27,6 @@ void DecodeCodes(CDMARecord& record, const RawBuffer& buffer, double version)
                     &record.RFSpectrum[i]);
 }
 
-void DecodeText(const RawBuffer& buffer, int offset, int width, std::string& field)
-{
-    if (const auto text = ReadChars(buffer, offset, width))
-        field = CutAtNul(*text);
-}
-
 /// Takes the version over and reads what both layouts share.
 double BeginDecode(Control& control, const RawBuffer& buffer)
 {
@@ -44,7 +37,7 @@ double BeginDecode(Control& control, const RawBuffer& buffer)
     DecodeFields(buffer, record, CDMAHeadFields(version));
     if (LevelVersion <= version) {
         record.SignalStandard = standard;
-        DecodeText(buffer, StandardName, StandardNameWidth, record.SignalStandard);
+        DecodeCodeText(buffer, StandardName, StandardNameWidth, record.SignalStandard);
     }
     return version;
 }
@@ -77,33 +70,17 @@ void AddRows(const CDMARecord& record, ParameterList& lines)
 {
     for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
         std::string& line = lines.BeginLine();
-        line += CDMARowKey("CDP Data ", i) + '\t';
+        line += CodeRowKey("CDP Data ", i) + '\t';
         AppendNumberText(line, record.CDPPower[i]);
         line += '\t' + NumberText(record.CDPLink[i]) + '\t' + CDMAChannelType.Text(record.CDPChannelType[i]);
         lines.EndLine();
     }
     for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i) {
         std::string& line = lines.BeginLine();
-        line += CDMARowKey("RF Spectrum Data ", i) + '\t';
+        line += CodeRowKey("RF Spectrum Data ", i) + '\t';
         AppendNumberText(line, record.RFSpectrum[i]);
         lines.EndLine();
     }
-}
-
-/// Keys that are the beginning of others, too, are looked up with their colon.
-std::string_view LookupKey(std::string_view key)
-{
-    for (const std::string_view whole : {"Channel:", "PN Offset:", "Tau:", "Noise Floor:"})
-        if (key == whole)
-            return key;
-    return key.substr(0, key.size() - 1);
-}
-
-/// A missing line leaves its field, a text as well as a number.
-void LoadTextField(std::string_view value, FieldRef field)
-{
-    if (!value.empty())
-        LoadField(value, field, Through::FieldType);
 }
 
 template <std::size_t Count>
@@ -113,13 +90,13 @@ void LoadKeys(const TraceText& text, CDMARecord& record, const std::array<Field<
         // The two statuses aren't read back: they stay as the trace before left them.
         if (field.Key == "Signal Status:" || field.Key == "Measurement Status:")
             continue;
-        const std::string_view value = text.ParamValue(LookupKey(field.Key));
+        const std::string_view value = text.ParamValue(CodeLookupKey(field.Key));
         if (field.Key != "Channel:")
-            LoadTextField(value, field.Member.Of(record));
+            LoadCodeField(value, field.Member.Of(record));
         else if (const auto channel = NumberFromNA(value); channel && !value.empty())
             record.Channel = *channel;
     }
-    LoadTextField(text.ParamValue("RefLelOffset CalStatus"), &record.RefLevelOffsetCalStatus);
+    LoadCodeField(text.ParamValue("RefLelOffset CalStatus"), &record.RefLevelOffsetCalStatus);
 }
 
 void LoadRows(const TraceText& text, CDMARecord& record)
@@ -127,7 +104,7 @@ void LoadRows(const TraceText& text, CDMARecord& record)
     // A missing row takes the fields of the row before it: they stay in `fields`.
     LineFields fields;
     for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
-        text.ParamFields(CDMARowKey("CDP Data ", i), fields);
+        text.ParamFields(CodeRowKey("CDP Data ", i), fields);
         if (fields.UpperIndex != 2)
             continue;
         LoadField(fields.Parts[0], &record.CDPPower[i], Through::FieldType);
@@ -135,7 +112,7 @@ void LoadRows(const TraceText& text, CDMARecord& record)
         record.CDPChannelType[i] = static_cast<std::uint8_t>(CDMAChannelType.Code(fields.Parts[2]));
     }
     for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i)
-        LoadField(text.ParamValue(CDMARowKey("RF Spectrum Data ", i)), &record.RFSpectrum[i],
+        LoadField(text.ParamValue(CodeRowKey("RF Spectrum Data ", i)), &record.RFSpectrum[i],
                   Through::FieldType);
 }
 
@@ -155,11 +132,6 @@ bool EndLoad(Control& control, const TraceText& text)
 }
 
 } // namespace
-
-std::string CDMARowKey(std::string_view stem, std::size_t row)
-{
-    return std::string(stem) + FormatValue(static_cast<std::int32_t>(row + 1), "000:");
-}
 
 void DecodeCDMATrace(Control& control, const RawBuffer& buffer)
 {
@@ -181,7 +153,7 @@ void DecodeCDMATrace_v320_above(Control& control, const RawBuffer& buffer)
     DecodeFields(buffer, record, CDMAScanFields_v320_above(version));
     DecodeFields(buffer, record, CDMAPlaceFields_v320_above);
     DecodeField(buffer, CDMACalStatus_v320_above, &record.RefLevelOffsetCalStatus);
-    DecodeText(buffer, CDMAUTCTime, UTCTimeWidth, record.UTCTime);
+    DecodeCodeText(buffer, CDMAUTCTime, UTCTimeWidth, record.UTCTime);
     DecodeField(buffer, CDMAValidPilots, &record.NoValidPilotScan);
     if (!EndDecode(control, buffer, version))
         return;
@@ -248,7 +220,7 @@ void LoadCDMAText_v320_above(Control& control, std::string_view text, const std:
     LoadKeys(*traceText, record, CDMAHeadFields(LayoutVersion));
     LoadKeys(*traceText, record, CDMAScanFields_v320_above(LayoutVersion));
     LoadKeys(*traceText, record, CDMAPlaceFields_v320_above);
-    LoadTextField(traceText->ParamValue("UTC Time:"), &record.UTCTime);
+    LoadCodeField(traceText->ParamValue("UTC Time:"), &record.UTCTime);
     LoadField(traceText->ParamValue("No Valid PilotScan:"), &record.NoValidPilotScan, Through::Float);
     if (!EndLoad(control, *traceText))
         return;

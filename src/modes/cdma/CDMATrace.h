@@ -35,9 +35,6 @@ void LoadCDMAText(Control& control, std::string_view text, const std::string& pa
 void LoadCDMAText_v320_above(Control& control, std::string_view text, const std::string& path);
 /// @}
 
-/// The key of a code's or a point's line, counted from 0: "CDP Data 001:" for the first.
-std::string CDMARowKey(std::string_view stem, std::size_t row);
-
 /// Tells the user when the measurement on show isn't one. The control may be gone afterwards.
 void CDMAStatusMessage(Control& control);
 

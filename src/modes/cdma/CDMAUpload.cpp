@@ -8,6 +8,7 @@
 #include "formats/UploadFrame.h"
 #include "modes/cdma/CDMAFields.h"
 #include "modes/cdma/CDMATrace.h"
+#include "modes/cdma/CodeRoutes.h"
 
 namespace Traces {
 
@@ -111,11 +112,11 @@ std::string EncodeCDMAText(std::string_view file)
         PutTextFields(frame, text, CDMAScanFields(version));
     for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
         LineFields fields;
-        if (text.ParamFields(CDMARowKey("CDP Data ", i), fields) && fields.UpperIndex == 2)
+        if (text.ParamFields(CodeRowKey("CDP Data ", i), fields) && fields.UpperIndex == 2)
             PutCode(frame, i, ValueOf(fields.Parts[0]), ValueOf(fields.Parts[1]), fields.Parts[2]);
     }
     for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i)
-        PutSpectrumPoint(frame, i, ValueOf(text.ParamValue(CDMARowKey("RF Spectrum Data ", i))), version);
+        PutSpectrumPoint(frame, i, ValueOf(text.ParamValue(CodeRowKey("RF Spectrum Data ", i))), version);
     return frame.Bytes();
 }
 

@@ -46,10 +46,7 @@ std::string EncodeSPARecord(const Control& control);
 /// @throws HostFault Range for more points than the frame holds, Overflow for values that it can't hold.
 std::string EncodeSPAText(std::string_view text);
 
-/// Frame from a raw file's bytes, unconverted.
-std::string SPAFrameOfRaw(std::string_view file);
-
-/// The same, and a copy of the frame goes to the file "Up.dmp" in the current folder.
+/// Frame from a raw file's bytes, unconverted. A copy goes to the file "Up.dmp" in the current folder.
 /// @throws HostFault FileAccess when that can't be written.
 std::string EncodeSPARaw(std::string_view file);
 

@@ -104,35 +104,18 @@ std::string EncodeSPAText(std::string_view file)
     return frame.Bytes();
 }
 
-std::string SPAFrameOfRaw(std::string_view file)
+std::string EncodeSPARaw(std::string_view file)
 {
-    constexpr int pointCountPosition = 42;
     UploadFrame frame(FrameLength);
-    frame.Put(1, PutI16(FrameLength));
-    CopyFileBytes(file, frame, 16, 3, 1);
-    CopyFileBytes(file, frame, 17, 4, 4);
-    CopyFileBytes(file, frame, 21, 8, 10);
-    CopyFileBytes(file, frame, 31, 18, 8);
-    CopyFileBytes(file, frame, 39, 26, 16);
-    CopyFileBytes(file, frame, 55, pointCountPosition, 2);
+    const int points = PutFrameHeadFromRaw(frame, file);
     for (const Stretch& stretch : Stretches)
         CopyFileBytes(file, frame, stretch.First, stretch.First - stretch.Shift,
                       stretch.Last - stretch.First + 1);
-    const auto byteAt = [&](int position) {
-        return static_cast<unsigned char>(frame.Bytes()[static_cast<std::size_t>(position - 1)]);
-    };
-    const int points = byteAt(pointCountPosition) * 256 + byteAt(pointCountPosition + 1);
     CopyFileBytes(file, frame, SPAFirstPoint, FirstPointPosition, points * SPAPointBytes);
-    return frame.Bytes();
-}
-
-std::string EncodeSPARaw(std::string_view file)
-{
-    std::string frame = SPAFrameOfRaw(file);
-    // Service tools pick the last frame up from here.
-    if (!WriteWholeFile("Up.dmp", frame))
+    // This route alone has always left a copy of its last frame.
+    if (!WriteWholeFile("Up.dmp", frame.Bytes()))
         throw HostFault(FaultKind::FileAccess, "can't write Up.dmp in the current folder");
-    return frame;
+    return frame.Bytes();
 }
 
 } // namespace Traces

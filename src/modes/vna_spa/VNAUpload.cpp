@@ -69,20 +69,9 @@ std::string EncodeVNAText(std::string_view file)
 
 std::string EncodeVNARaw(std::string_view file)
 {
-    constexpr int pointCountPosition = 42;
     UploadFrame frame(RawFrameLength);
-    frame.Put(1, PutI16(RawFrameLength));
-    CopyFileBytes(file, frame, 16, 3, 1);
-    CopyFileBytes(file, frame, 17, 4, 4);
-    CopyFileBytes(file, frame, 21, 8, 10);
-    CopyFileBytes(file, frame, 31, 18, 8);
-    CopyFileBytes(file, frame, 39, 26, 16);
-    CopyFileBytes(file, frame, 55, pointCountPosition, 2);
+    const int points = PutFrameHeadFromRaw(frame, file);
     CopyFileBytes(file, frame, 57, 44, 171);
-    const auto byteAt = [&](int position) {
-        return static_cast<unsigned char>(frame.Bytes()[static_cast<std::size_t>(position - 1)]);
-    };
-    const int points = byteAt(pointCountPosition) * 256 + byteAt(pointCountPosition + 1);
     CopyFileBytes(file, frame, VNAFirstPoint, FirstPointPosition, points * VNAPointBytes);
     return frame.Bytes();
 }

@@ -1,0 +1,33 @@
+#include "modes/cdma/CodeRoutes.h"
+
+#include "formats/FormatValue.h"
+#include "formats/Text.h"
+
+namespace Traces {
+
+std::string CodeRowKey(std::string_view stem, std::size_t row, std::string_view mask)
+{
+    return std::string(stem) + FormatValue(static_cast<std::int32_t>(row + 1), mask);
+}
+
+std::string_view CodeLookupKey(std::string_view key)
+{
+    for (const std::string_view whole : {"Channel:", "PN Offset:", "Tau:", "Noise Floor:"})
+        if (key == whole)
+            return key;
+    return key.substr(0, key.size() - 1);
+}
+
+void LoadCodeField(std::string_view value, FieldRef field)
+{
+    if (!value.empty())
+        LoadField(value, field, Through::FieldType);
+}
+
+void DecodeCodeText(const RawBuffer& buffer, int offset, int width, std::string& field)
+{
+    if (const auto text = ReadChars(buffer, offset, width))
+        field = CutAtNul(*text);
+}
+
+} // namespace Traces

@@ -1,0 +1,166 @@
+#include "modes/evdo/EvDOChart.h"
+
+#include "control/Control.h"
+#include "formats/CodeTable.h"
+#include "formats/FormatValue.h"
+
+#include <algorithm>
+
+namespace Traces {
+
+namespace {
+
+constexpr std::int16_t CodeView = 0, OverTheAirView = 3, SpectrumView = 4;
+
+void SetBits(std::uint8_t& byte, unsigned mask, bool on)
+{
+    byte = static_cast<std::uint8_t>(on ? byte | mask : byte & ~mask);
+}
+
+/// Marker 1 is bit 7 of the status byte, marker 6 bit 2.
+unsigned MarkerBit(std::size_t marker)
+{
+    return 1U << (7 - marker);
+}
+
+bool IsWord(std::string_view word, std::string_view upper)
+{
+    return std::ranges::equal(word, upper, [](char a, char b) {
+        return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 'a' + 'A') : a) == b;
+    });
+}
+
+void LayCurve(Control& control, std::int16_t points, const float* values)
+{
+    SetSlotLength(control, 0, points);
+    TraceSlot& slot = control.TraceSlots[0];
+    for (std::size_t i = 0; i < slot.X.size(); ++i) {
+        slot.X[i] = static_cast<float>(i);
+        slot.Y[i] = values[i];
+    }
+    control.YScaleTop = 0;
+    control.YScaleBottom = -50;
+}
+
+void SelectView(Control& control, std::int16_t view, bool hasMarkers)
+{
+    control.EvDOViewMode = view;
+    control.EvDO.DisplayType = static_cast<std::uint8_t>(view);
+    control.EvDOChartHasMarkers = hasMarkers;
+}
+
+bool ShowsCodes(const Control& control)
+{
+    return control.EvDOViewMode < OverTheAirView;
+}
+
+template <const char* Word>
+void RunCDP(Control& control)
+{
+    SelectEvDOCDP(control, Word);
+    RedrawTrace(control);
+}
+
+template <const char* Word>
+void RunRF(Control& control)
+{
+    SelectEvDORF(control, Word);
+    RedrawTrace(control);
+}
+
+constexpr char MAC[] = "MAC", Data[] = "Data", Active[] = "Active", Idle[] = "Idle";
+
+} // namespace
+
+void SelectEvDOCDP(Control& control, std::string_view word)
+{
+    constexpr std::int16_t most = EvDORecord::MACCodes, fewest = 64;
+    if (IsWord(word, "MAC") || IsWord(word, "DATA"))
+        SetBits(control.EvDO.StatusByte1, EvDOStatus::MAC, IsWord(word, "MAC"));
+    SelectView(control, CodeView, true);
+    LayCurve(control, control.Header.DataPoints == most ? most : fewest, control.EvDO.CDPMACPower.data());
+}
+
+void SelectEvDORF(Control& control, std::string_view word)
+{
+    if (IsWord(word, "ACTIVE") || IsWord(word, "IDLE"))
+        SetBits(control.EvDO.StatusByte1, EvDOStatus::Active, IsWord(word, "ACTIVE"));
+    SelectView(control, SpectrumView, false);
+    LayCurve(control, EvDORecord::CurvePoints, control.EvDO.RFSpectrum.data());
+}
+
+void FillEvDOCurve(Control& control)
+{
+    control.EvDOViewMode = control.EvDO.DisplayType;
+    if (control.EvDOViewMode == SpectrumView)
+        SelectEvDORF(control, {});
+    else if (control.EvDOViewMode != OverTheAirView)
+        SelectEvDOCDP(control, {});
+}
+
+void TakeEvDOMarkers(Control& control)
+{
+    const EvDORecord& record = control.EvDO;
+    control.EvDOIs128 = control.Header.DataPoints == 128;
+    MarkerSet& markers = control.EvDOMarkers;
+    for (std::size_t k = 0; k < MarkerCount; ++k) {
+        markers.MarkerIndex[k] = record.MarkerPosition[k];
+        markers.MarkerOn[k] = (record.StatusByte2 & MarkerBit(k)) != 0;
+        markers.MarkerOnAlt[k] = (record.DataMarkers >> k & 1) == 0;
+        markers.MarkerText[k] = EvDOMarkerText(control, k);
+    }
+}
+
+std::string EvDOMarkerText(Control& control, std::size_t marker)
+{
+    EvDORecord& record = control.EvDO;
+    const MarkerSet& markers = control.EvDOMarkers;
+    const std::int16_t position = markers.MarkerIndex[marker];
+    SetBits(record.StatusByte2, MarkerBit(marker), markers.MarkerOn[marker]);
+    if (position >= 0)
+        record.MarkerPosition[marker] = static_cast<std::uint8_t>(std::min<std::int16_t>(position, 255));
+    if (!markers.MarkerOn[marker])
+        return "Off";
+    const auto code = static_cast<std::size_t>(position);
+    const std::string place = FormatValue(std::int32_t{position}, "#0");
+    if (markers.MarkerOnAlt[marker] && position >= 0 && code < EvDORecord::MACCodes)
+        return FormatValue(record.CDPMACPower[code], "#0.00 dB") + ',' + place + ',' +
+               CDMAChannelType.Text(record.CDPMACType[code]);
+    if (!markers.MarkerOnAlt[marker] && position >= 0 && code < EvDORecord::DataCodes)
+        return FormatValue(record.CDPDataI[code], "#0.00 dB") + ',' +
+               FormatValue(record.CDPDataQ[code], "#0.00 dB") + ',' + place;
+    return markers.MarkerText[marker]; // until the redraw clamps it
+}
+
+// Each of the two code domain items has always chosen the other's word. The check marks follow what an item
+// does, so the item that was chosen is the one that is checked.
+constinit const std::array<FamilyMenuItem, 5> EvDOMenuItems = {{
+    {"menuEvDOCDPMAC", RunCDP<Data>,
+     [](const Control& control) {
+         return ShowsCodes(control) && (control.EvDO.StatusByte1 & EvDOStatus::MAC) == 0;
+     },
+     nullptr},
+    {"menuEvDOCDPData", RunCDP<MAC>,
+     [](const Control& control) {
+         return ShowsCodes(control) && (control.EvDO.StatusByte1 & EvDOStatus::MAC) != 0;
+     },
+     nullptr},
+    {"menuEvDOOTA",
+     [](Control& control) {
+         SelectView(control, OverTheAirView, false);
+         RedrawTrace(control);
+     },
+     [](const Control& control) { return control.EvDOViewMode == OverTheAirView; }, nullptr},
+    {"menuEvDORFSpecIdle", RunRF<Idle>,
+     [](const Control& control) {
+         return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) == 0;
+     },
+     nullptr},
+    {"menuEvDORFSpecActive", RunRF<Active>,
+     [](const Control& control) {
+         return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) != 0;
+     },
+     nullptr},
+}};
+
+} // namespace Traces
