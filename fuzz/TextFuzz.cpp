@@ -89,8 +89,8 @@ bool Returns(const Control& state, const FileKind& kind)
            ModeCode(ModeName(header.Mode)) == header.Mode;
 }
 
-/// Whether each value of the list stands in one line and leads back: a line feed in one may hide another key's
-/// line, and the hexadecimal digits of an unknown code read as decimal ones.
+/// Whether each value of the list stands in one line and leads back: a line feed in one may hide another
+/// key's line, and the hexadecimal digits of an unknown code read as decimal ones.
 bool ListReturns(const ParameterList& lines)
 {
     for (std::size_t i = 0; i < lines.ListCount(); ++i)
