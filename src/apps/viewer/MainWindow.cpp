@@ -25,6 +25,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
@@ -83,7 +84,7 @@ MainWindow::MainWindow(QWidget* parent)
     connect(chart, &PlotWidget::Faulted, this,
             [this](const QString& what) { statusBar()->showMessage(what); });
     if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
-        resize(chart->sizeHint() * 1.5);
+        resize((chart->sizeHint() * 1.5).boundedTo(screen()->availableSize() * 0.9));
     restoreState(settings.value(QStringLiteral("state")).toByteArray());
     summary->setChecked(settings.value(QStringLiteral("summary")).toBool());
 }
