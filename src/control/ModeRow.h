@@ -31,6 +31,7 @@ struct FamilyMenuItem {
     void (*Run)(Control& control) = nullptr;
     bool (*Checked)(const Control& control) = nullptr;
     bool (*Enabled)(const Control& control) = nullptr; ///< null is always
+    std::string_view View = {}; ///< what programs call the sub view that Run shows, if any
 };
 
 /// What a measurement mode does. A null function means that the mode has no such route.
