@@ -89,12 +89,14 @@ bool Returns(const Control& state, const FileKind& kind)
            ModeCode(ModeName(header.Mode)) == header.Mode;
 }
 
-/// Whether each value of the list stands in one line: a line feed in one may hide another key's line.
+/// Whether each value of the list stands in one line and leads back: a line feed in one may hide another
+/// key's line, and the hexadecimal digits of an unknown code read as decimal ones.
 bool ListReturns(const ParameterList& lines)
 {
     for (std::size_t i = 0; i < lines.ListCount(); ++i)
-        if (lines.List(i).find('\n') != std::string_view::npos)
-            return false;
+        for (const char* breach : {"\n", "Unknown("})
+            if (lines.List(i).find(breach) != std::string_view::npos)
+                return false;
     return true;
 }
 
@@ -104,7 +106,8 @@ void LoadAndSave(const FileKind& kind, const std::string& file)
     Plot plot(platform);
     Control& state = plot.Instance();
     kind.Load(state, file, {});
-    Check(platform.Messages.empty(), "an accepted checksum shows no message");
+    for (const Message& message : platform.Messages)
+        Check(message.Icon == MessageIcon::Information, "an accepted checksum shows no failure");
     Check(state.CurrentMode == state.Header.Mode && !state.TraceSaved, "a loaded trace is the one on show");
     const std::string saved = FileOf(plot);
     Check(FileOf(plot) == saved, "the list is built anew each time");

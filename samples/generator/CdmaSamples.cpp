@@ -135,7 +135,7 @@ private:
         constexpr std::array<std::uint8_t, 6> places = {0, 1, 32, 12, 40, 63};
         for (std::size_t k = 0; k < places.size(); ++k)
             raw.PutByte(73 + k, places[k]);
-        raw.PutI16(79, 62);
+        raw.PutI16(79, 20);
         raw.PutByte(81, settings.Display);
         raw.PutByte(82, settings.Units);
         raw.PutRounded(83, 30.5 * 1000 + 270'000);
@@ -144,7 +144,7 @@ private:
         raw.PutByte(90, settings.SearchMode);
         raw.PutI16(91, settings.SignalStatus);
         raw.PutByte(93, settings.MeasurementStatus);
-        raw.PutChars(94, 24, "PCS 1900 CDMA", '\0');
+        raw.PutChars(94, 24, "CDMA US PCS", '\0');
     }
 
     void PutResults()
@@ -166,7 +166,7 @@ private:
         raw.PutRounded(offset, 2.4 * 10 + 300);
         PutLevel(offset + 4, -31.2);
         PutLevel(offset + 8, 6.3);
-        PutLevel(offset + 12, -0.8);
+        PutLevel(offset + 12, -15.2);
         raw.PutI32(offset + 16, 38'538'600);
         raw.PutI32(offset + 20, -90'122'400);
         raw.PutI16(offset + 24, 142);

@@ -20,6 +20,16 @@ std::string CurveText(const TraceSlot& slot)
            NumberText(slot.X.front()) + " to " + NumberText(slot.X[points - 1]);
 }
 
+/// What stands in large letters on a holder: a reading that is no curve.
+std::string ReadingText(const ChartSurface& holder)
+{
+    std::string text;
+    for (const Label* label : holder.Labels())
+        if (label->Visible && !label->Caption.empty())
+            text += ", " + label->Caption;
+    return text;
+}
+
 std::string MarkersText(const MarkerSet& markers, const TraceSlot& slot)
 {
     std::string text;
@@ -44,7 +54,8 @@ std::string DescribePlot(const Control& control)
     std::string text = ModeName(row->Mode);
     if (!control.TraceName.empty())
         text += " \"" + control.TraceName + '"';
-    text += CurveText(control.TraceSlots[0]);
+    const std::string reading = row->Holder != nullptr ? ReadingText(control.*row->Holder) : std::string();
+    text += reading.empty() ? CurveText(control.TraceSlots[0]) : reading;
     if (row->Markers != nullptr)
         text += MarkersText(control.*row->Markers, control.TraceSlots[0]);
     return text + ".";

@@ -7,8 +7,8 @@ namespace Traces {
 
 struct Control;
 
-/// One sentence: mode and title, the span and number of the curve's points, the markers that are on and
-/// where they stand.
+/// One sentence: mode and title, the reading or the span and number of the curve's points, the markers that
+/// are on and where they stand.
 std::string DescribePlot(const Control& control);
 
 } // namespace Traces

@@ -6,6 +6,7 @@
 #include "formats/Numbers.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
+#include "modes/cdma/CDMAChart.h"
 
 #include <algorithm>
 
@@ -42,6 +43,22 @@ float ChannelNumberOf(const Control& control, std::size_t point)
     return point < control.CS.Channel.size() ? control.CS.Channel[point].Number : 0;
 }
 
+/// The chart numbers its bars, which may stand in bit-reversed order.
+float WalshCodeOf(const Control& control, std::size_t point)
+{
+    return WalshDisplayIndex(control, static_cast<std::int16_t>(point));
+}
+
+float PlaceOf(const Control& control, std::size_t point)
+{
+    return control.TraceSlots[0].X[point];
+}
+
+bool ShowsCDMASpectrum(const Control& control)
+{
+    return !control.ChartHasMarkers;
+}
+
 /// What a curve's value says of the reflection.
 enum class Reflection { None, Decibels, Swr };
 
@@ -51,6 +68,8 @@ struct ExportRow {
     float (*XOf)(const Control& control, std::size_t point);
     float (*ThirdOf)(const Control& control, std::size_t point);
     Reflection Holds;
+    bool (*Shows)(const Control& control) =
+        nullptr; ///< null is always; the first row of a mode that fits counts
 };
 
 // clang-format off
@@ -63,6 +82,8 @@ constexpr ExportRow Rows[] = {
     {TraceMode::Spectrum,           "Frequency (MHz)", "Level (dBm)",      {},            FrequencyOf,     nullptr,      Reflection::None},
     {TraceMode::ChannelScanner,     "Frequency (MHz)", "Level (dBm)",      "Channel",     ChannelFrequencyOf, ChannelNumberOf, Reflection::None},
     {TraceMode::Spectrogram,        "Frequency (MHz)", "Level (dBm)",      {},            FrequencyOf,     nullptr,      Reflection::None},
+    {TraceMode::CDMA,               "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None, ShowsCDMASpectrum},
+    {TraceMode::CDMA,               "Walsh code",      "Power (dB)",       {},            WalshCodeOf,     nullptr,      Reflection::None},
     {TraceMode::VNAUnnamed,         "Frequency (MHz)", "Magnitude (dB)",   "Phase (deg)", FrequencyOf,     SweepPhaseOf, Reflection::None},
 };
 // clang-format on
@@ -125,8 +146,10 @@ bool HasTouchstone(int mode)
 
 Export CsvOf(const Control& control)
 {
-    const ExportRow* row = FindRow(control.Header.Mode);
-    if (row == nullptr)
+    const auto* row = std::find_if(std::begin(Rows), std::end(Rows), [&](const ExportRow& each) {
+        return each.Mode == control.Header.Mode && (each.Shows == nullptr || each.Shows(control));
+    });
+    if (row == std::end(Rows))
         return {{}, NoRoute(control, "a table of its curve"), {}};
     const TraceSlot& slot = control.TraceSlots[0];
     const std::size_t points = UsedPoints(slot);

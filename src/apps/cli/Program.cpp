@@ -73,6 +73,8 @@ CLI::App* AddRender(CLI::App& program, Console& console, Command& chosen, Render
                            "Window in the chart's units", ParseZoom,
                            [&](ZoomRequest zoom) { options.Zoom = zoom; })
         ->type_name("X1,X2,Y1,Y2");
+    command->add_flag("--results", options.Results,
+                      "Results below the chart in place of the markers' readouts, where a view has both");
     command->add_flag("--autoscale", options.AutoScale, "Y axis by the data");
     command->callback([&] { chosen = [&] { return RunRender(console, options); }; });
     return command;

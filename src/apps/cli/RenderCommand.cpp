@@ -52,13 +52,35 @@ void PlaceMarker(const TraceSlot& slot, MarkerSet& markers, const MarkerRequest&
     markers.MarkerText[marker] = FormatValue(slot.X[nearest], "#0.000");
 }
 
+/// Shows a sub view. What can't be is told; empty when it could.
+std::string ShowView(Control& control, const ModeRow* row, const std::string& view)
+{
+    std::string known;
+    for (const FamilyMenuItem& item : row != nullptr ? row->MenuItems : std::span<const FamilyMenuItem>()) {
+        if (item.View.empty())
+            continue;
+        known += (known.empty() ? "" : ", ") + std::string(item.View);
+        if (item.View != view)
+            continue;
+        if (item.Enabled != nullptr && !item.Enabled(control))
+            return "can't show \"" + view + "\", for which the instrument had no option";
+        item.Run(control);
+        return {};
+    }
+    const std::string mode = ModeName(control.Header.Mode);
+    return "has no view \"" + view + "\": " +
+           (known.empty() ? mode + " has one view, which needs no name"
+                          : "the views of " + mode + " are " + known);
+}
+
 /// Applies what was asked beyond the trace itself. What can't be is told; empty when all could.
 std::string Adjust(Control& control, const RenderOptions& options)
 {
     const ModeRow* row = CurrentRow(control);
     const std::string mode = ModeName(control.Header.Mode);
     if (!options.View.empty())
-        return "has no view \"" + options.View + "\": " + mode + " has one view, which needs no name";
+        if (std::string problem = ShowView(control, row, options.View); !problem.empty())
+            return problem;
     if (!options.Markers.empty()) {
         if (row == nullptr || row->Markers == nullptr)
             return "can't have markers: " + mode + " has none";
@@ -94,6 +116,7 @@ bool RenderTo(Console& console, const std::string& name, const std::string& targ
         return false;
     OpenTrace trace(painter.Metrics());
     trace.Plot().ShowParams(options.Params);
+    trace.Plot().DisplayMarkerValues(!options.Results);
     if (options.Params || options.Size) {
         const PictureSize size = options.Size.value_or(options.Params ? DesignSizeWithPane : DesignSize);
         trace.Plot().Resize(size.Width, size.Height);

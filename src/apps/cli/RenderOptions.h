@@ -35,7 +35,8 @@ struct RenderOptions {
     std::string Out; ///< a file, a folder or "-"
     std::optional<PictureFormat> Format;
     std::optional<PictureSize> Size;
-    bool Params = false; ///< with the summary pane
+    bool Params = false;  ///< with the summary pane
+    bool Results = false; ///< in the place of the markers' readouts, where a view has both
     std::string View;
     std::vector<MarkerRequest> Markers;
     std::optional<ZoomRequest> Zoom;

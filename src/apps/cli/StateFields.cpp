@@ -73,6 +73,8 @@ constexpr StateField Fields[] = {
     {"SpectroSweep",        Of<&Control::SpectroSweep>},
     {"GSMViewMode",         Of<&Control::GSMViewMode>},
     {"CDMAViewMode",        Of<&Control::CDMAViewMode>},
+    {"CDMAIs128",           Of<&Control::CDMAIs128>},
+    {"ChartHasMarkers",     Of<&Control::ChartHasMarkers>},
     {"EvDOViewMode",        Of<&Control::EvDOViewMode>},
     {"ZoomActive",          Of<&Control::ZoomActive>},
     {"ZoomX1",              Of<&Control::ZoomX1>},

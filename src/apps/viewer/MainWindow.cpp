@@ -25,6 +25,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
@@ -37,7 +38,6 @@ namespace Traces::Viewer {
 namespace {
 
 constexpr int MostRecent = 10;
-constexpr int DesignWidth = 550, DesignHeight = 480, WidthWithPane = 911;
 
 QString ScreenText(std::string_view text)
 {
@@ -84,7 +84,7 @@ MainWindow::MainWindow(QWidget* parent)
     connect(chart, &PlotWidget::Faulted, this,
             [this](const QString& what) { statusBar()->showMessage(what); });
     if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
-        resize(chart->sizeHint() * 1.5);
+        resize((chart->sizeHint() * 1.5).boundedTo(screen()->availableSize() * 0.9));
     restoreState(settings.value(QStringLiteral("state")).toByteArray());
     summary->setChecked(settings.value(QStringLiteral("summary")).toBool());
 }

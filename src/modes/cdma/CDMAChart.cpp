@@ -6,8 +6,8 @@
 #include "formats/HostFault.h"
 #include "formats/PowerUnits.h"
 
-#include <algorithm>
 #include <array>
+#include <limits>
 
 namespace Traces {
 
@@ -96,7 +96,8 @@ void TryFillCDMACurve(Control& control)
     try {
         LayCurve(control);
     } catch (const HostFault&) {
-        // A loader reports nothing but the checksum.
+        // A loader reports nothing but the checksum. Without codes the chart still has its limits.
+        SetChartLimits(control);
     }
 }
 
@@ -118,8 +119,9 @@ std::string CDMAMarkerText(Control& control, std::size_t marker)
     const MarkerSet& markers = control.CDMAMarkers;
     const std::int16_t position = markers.MarkerIndex[marker];
     SetBit(record.StatusByte2, MarkerBit(marker), markers.MarkerOn[marker]);
-    if (position >= 0)
-        record.MarkerPosition[marker] = static_cast<std::uint8_t>(std::min<std::int16_t>(position, 255));
+    // A marker that was dragged to the right on the spectrum stands where no byte can say.
+    if (position >= 0 && position <= std::numeric_limits<std::uint8_t>::max())
+        record.MarkerPosition[marker] = static_cast<std::uint8_t>(position);
     if (!markers.MarkerOn[marker])
         return "Off";
     const std::int16_t code = WalshDisplayIndex(control, position);
@@ -136,14 +138,14 @@ constinit const std::array<FamilyMenuItem, 3> CDMAMenuItems = {{
          PrepareCDMAHistogram(control);
          RedrawTrace(control);
      },
-     [](const Control& control) { return control.CDMAViewMode < SpectrumView; }, nullptr},
+     [](const Control& control) { return control.CDMAViewMode < SpectrumView; }, nullptr, "codes"},
     {"menuCDMARFSpec",
      [](Control& control) {
          PrepareCDMASpectrum(control);
          RedrawTrace(control);
      },
      [](const Control& control) { return control.CDMAViewMode == SpectrumView; },
-     [](const Control& control) { return (control.CDMA.StatusByte3 & CDMAOption::RF) != 0; }},
+     [](const Control& control) { return (control.CDMA.StatusByte3 & CDMAOption::RF) != 0; }, "spectrum"},
     {"menuCDMABitReverse",
      [](Control& control) {
          control.CDMAIs128 = !control.CDMAIs128;

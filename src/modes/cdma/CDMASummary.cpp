@@ -7,6 +7,7 @@
 #include "modes/cdma/CDMAFields.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,9 +45,10 @@ void DrawBar(ChartSurface& pane, int y, int right, float power, float most)
                  static_cast<float>(y + RowHeight - inset), BarRed);
 }
 
-/// A table of rows with bars; gives the place below it.
+/// A table of rows with bars against the strongest pilot, where something was measured; gives the place
+/// below it.
 int DrawScan(ChartSurface& pane, int top, const std::vector<std::string>& heads,
-             const std::vector<ScanRow>& rows, bool measured)
+             const std::vector<ScanRow>& rows, std::optional<float> strongest)
 {
     const bool delays = heads.size() == 4;
     const int barRight = delays ? DelayLeft : PowerLeft;
@@ -59,15 +61,12 @@ int DrawScan(ChartSurface& pane, int top, const std::vector<std::string>& heads,
         PaneBand(pane, edges[column], top, edges[column + 1], top + RowHeight, PaneLabelBand);
         PrintIn(pane, heads[column], top + 1, edges[column], edges[column + 1]);
     }
-    float most = rows.front().Power;
-    for (const ScanRow& row : rows)
-        most = std::max(most, row.Power);
     int y = top;
     for (const ScanRow& row : rows) {
         y += RowHeight;
         PrintIn(pane, row.Number, y + 1, Left, BarLeft);
-        if (measured)
-            DrawBar(pane, y, barRight, row.Power, most);
+        if (strongest)
+            DrawBar(pane, y, barRight, row.Power, *strongest);
         if (delays)
             PrintIn(pane, row.Delay, y + 1, DelayLeft, PowerLeft);
         PrintIn(pane, row.PowerText, y + 1, PowerLeft, Right);
@@ -137,15 +136,19 @@ void DrawCDMASummary(Control& control)
     const bool newer = Library().TraceVersionValue >= LayoutVersion;
     const bool measured = (record.StatusByte3 & CDMAOption::OverTheAir) != 0;
     ChartSurface& pane = OpenPane(control);
+    const std::vector<ScanRow> pilots = PilotRows(record, newer, measured);
+    std::optional<float> strongest;
+    if (measured)
+        strongest = std::ranges::max(pilots, {}, &ScanRow::Power).Power;
     using Heads = std::vector<std::string>;
     int y = DrawScan(pane, gap,
                      newer ? Heads{"PN", "Pilot Scan Results", "Tau (us)", "Power"}
                            : Heads{"PN", "Pilot Scan Results", "Ec/Io"},
-                     PilotRows(record, newer, measured), measured);
+                     pilots, strongest);
     const ScanRow multipath = {DelayText(record.Tau), "",
                                measured ? FormatValue(record.MultipathPower, "#0.00") : "N/A",
                                record.MultipathPower};
-    y = DrawScan(pane, y + gap, {"Tau (us)", "Multipath", newer ? "Power" : "Ec/Io"}, {multipath}, measured);
+    y = DrawScan(pane, y + gap, {"Tau (us)", "Multipath", newer ? "Power" : "Ec/Io"}, {multipath}, strongest);
     DrawResults(pane, y + gap, record);
     ClosePane(pane);
 }

@@ -67,6 +67,7 @@ void DrawCodes(Control& control, const ChartWindow& window)
                 static_cast<std::size_t>(WalshDisplayIndex(control, static_cast<std::int16_t>(i)));
             if (static_cast<int>(i) >= slot.Length || code >= CDMARecord::Codes)
                 break;
+            CheckCurvePoint(slot, i);
             DrawCodeBar(box, {slot.X[i], slot.Y[i]}, half, window, record.CDPChannelType[code]);
             if (record.CDPLink[code] == 0)
                 box.Line(slot.X[i] - half, window.Ymin, slot.X[i] - half, window.Ymax, Black);
@@ -92,12 +93,13 @@ bool DrawChartBox(Control& control)
 
 void DrawMarkers(Control& control)
 {
+    // The texts come before the lines, which clamp the markers to the chart: a marker that a key has moved
+    // past the last code tells the place that it was moved to, until the next redraw.
     MarkerSet& markers = control.CDMAMarkers;
-    if (control.ChartHasMarkers)
-        DrawMarkerLines(control, control.CDMABox, markers);
-    // The lines have clamped the markers to the chart: the texts are those of where they stand now.
     for (std::size_t k = 0; k < MarkerCount; ++k)
         markers.MarkerText[k] = CDMAMarkerText(control, k);
+    if (control.ChartHasMarkers)
+        DrawMarkerLines(control, control.CDMABox, markers);
     if (control.DisplayMarkerValues)
         DrawMarkerReadouts(markers);
 }
@@ -120,8 +122,9 @@ void DrawCDMATrace(Control& control)
     DrawHead(control);
     DrawLeftColumn(control);
     DrawCDMAPanels(control);
-    if (DrawChartBox(control))
-        DrawMarkers(control);
+    if (!DrawChartBox(control))
+        return;
+    DrawMarkers(control);
     if (control.ShowParams)
         DrawCDMASummary(control);
     EndView(holder, box);

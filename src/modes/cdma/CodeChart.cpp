@@ -17,13 +17,13 @@ constexpr Colour ResultGround = RGB(255, 255, 200);
 constexpr float PanelTop = 360, PanelMiddle = 420, PanelBottom = 480;
 constexpr float CellEdge1 = 183, CellEdge2 = 366, PageWidth = 600;
 
-void CheckPoint(const TraceSlot& slot, std::size_t i)
+} // namespace
+
+void CheckCurvePoint(const TraceSlot& slot, std::size_t point)
 {
-    if (!std::isfinite(slot.X[i]) || !std::isfinite(slot.Y[i]))
+    if (!std::isfinite(slot.X[point]) || !std::isfinite(slot.Y[point]))
         throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
 }
-
-} // namespace
 
 std::string TitleOfPath(std::string_view traceName)
 {
@@ -66,8 +66,8 @@ void DrawSpectrumLines(const Control& control, ChartSurface& box)
     for (std::size_t t = 0; t < LiveSlots; ++t) {
         const TraceSlot& slot = control.TraceSlots[t];
         for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i) {
-            CheckPoint(slot, i - 1);
-            CheckPoint(slot, i);
+            CheckCurvePoint(slot, i - 1);
+            CheckCurvePoint(slot, i);
             box.Line(slot.X[i - 1], slot.Y[i - 1], slot.X[i], slot.Y[i], Yellow);
         }
     }

@@ -47,7 +47,7 @@ void Place(ChartSurface& box, const Rectangle& place)
 
 std::string Title(const Control& control)
 {
-    const std::string title = "EvDO-" + TitleOfPath(control.TraceName);
+    std::string title = "EvDO-" + TitleOfPath(control.TraceName);
     if (control.EvDOViewMode == SpectrumView)
         return title + (Has(control.EvDO, EvDOStatus::Active) ? "(Active)" : "(Idle)");
     if (control.EvDOViewMode == OverTheAirView)
