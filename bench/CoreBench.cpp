@@ -8,7 +8,9 @@
 #include "control/TextLoader.h"
 #include "formats/Checksum.h"
 #include "formats/Files.h"
+#include "formats/FormatValue.h"
 #include "formats/TraceHeader.h"
+#include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
 
 #include <array>
@@ -117,6 +119,71 @@ void ScaleNumbers(const Bytes& raw)
     Keep(phases);
 }
 
+/// All numbers that a trace's parameter lines say.
+std::vector<float> NumbersOf(const Plot& plot)
+{
+    std::vector<float> numbers;
+    for (const std::string& line : plot.Parameters()) {
+        std::string_view rest = line;
+        for (std::size_t tab = rest.find('\t'); tab != std::string_view::npos; tab = rest.find('\t')) {
+            rest.remove_prefix(tab + 1);
+            float number = 0;
+            if (std::from_chars(rest.data(), rest.data() + rest.size(), number).ec == std::errc())
+                numbers.push_back(number);
+        }
+    }
+    return numbers;
+}
+
+/// Every family but the sweeps: the whole way in, against its numbers' way into text.
+void ShowFamilies(Report& report)
+{
+    for (const FamilySample& family : FamilySamples) {
+        HeadlessPlatform platform;
+        Plot plot(platform);
+        const Bytes raw = ReadSample(family.File);
+        plot.ShowTrace(raw);
+        const std::vector<float> numbers = NumbersOf(plot);
+        const std::string what = "show and record: " + std::string(family.What) + ", " +
+                                 std::to_string(numbers.size()) + " numbers";
+        const auto show = [&](int) {
+            plot.ShowTrace(raw);
+            platform.Messages.clear();
+        };
+        const Times times = TimeInTurns(show, [&](int) { FormatNumbers(numbers); });
+        // A view of few numbers costs more than they do.
+        constexpr std::size_t many = 400;
+        if (numbers.size() < many)
+            report.Note(what, times);
+        else
+            report.Add(what, times, 3);
+    }
+}
+
+/// The two texts with as many points as a sweep.
+void ParseSpectrum(Report& report)
+{
+    HeadlessPlatform platform;
+    Plot plot(platform);
+    plot.ShowTrace(ReadSample("spa_fm_broadcast_401pts.raw"));
+    const std::string text = SavedText(plot, platform);
+    const std::vector<float> numbers = NumbersOf(plot);
+    std::vector<std::string> digits;
+    for (const float number : numbers)
+        digits.push_back(FormatValue(number, {}));
+    const std::vector<std::string_view> views(digits.begin(), digits.end());
+    Control& control = plot.Instance();
+    report.Add("parse a spectrum's text / read its numbers",
+               TimeInTurns(
+                   [&](int) {
+                       const TraceText traceText(text);
+                       HeaderFromText(traceText, control.Header, control.lstParameters);
+                       LoadSPARecord(control, traceText);
+                   },
+                   [&](int) { ReadNumbers(views); }),
+               3);
+}
+
 void ParseText(Control& control, const std::string& text)
 {
     const TraceText traceText(text);
@@ -168,6 +235,8 @@ int main()
                TimeInTurns([&](int) { plot.LoadVNAText(longer, ""); },
                            [&](int) { plot.LoadVNAText(sweeps[0].Text, ""); }),
                12);
+    ShowFamilies(report);
+    ParseSpectrum(report);
     if (!platform.Messages.empty()) {
         std::printf("A file didn't verify: the figures mean nothing.\n");
         return 1;

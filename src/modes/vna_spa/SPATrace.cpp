@@ -3,8 +3,8 @@
 #include "chart/SweepCurve.h"
 #include "control/Control.h"
 #include "control/TextLoader.h"
-#include "formats/FormatValue.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "modes/vna_spa/SPAFields.h"
 #include "modes/vna_spa/SavedNumbers.h"
@@ -23,9 +23,9 @@ std::size_t PointsInRecord(const Control& control)
 }
 
 /// "1:", the key of the first point's line.
-std::string PointKey(std::size_t point)
+RowKey PointKey(std::size_t point)
 {
-    return FormatValue(static_cast<std::int32_t>(point + 1), "#0:");
+    return {{}, point + 1};
 }
 
 /// Points that the record has no room for are left out.
