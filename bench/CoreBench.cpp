@@ -8,7 +8,7 @@
 #include "control/TextLoader.h"
 #include "formats/Checksum.h"
 #include "formats/Files.h"
-#include "formats/FormatValue.h"
+#include "formats/Numbers.h"
 #include "formats/TraceHeader.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
@@ -160,28 +160,50 @@ void ShowFamilies(Report& report)
     }
 }
 
-/// The two texts with as many points as a sweep.
-void ParseSpectrum(Report& report)
+/// A spectrum's saved text with levels of its own, and the numbers in it.
+struct SpectrumText {
+    std::string Text;
+    std::vector<std::string> Numbers;
+    std::vector<std::string_view> Views; ///< of Numbers
+};
+
+SpectrumText MakeSpectrumText(const Bytes& sample, int variant)
 {
     HeadlessPlatform platform;
     Plot plot(platform);
-    plot.ShowTrace(ReadSample("spa_fm_broadcast_401pts.raw"));
-    const std::string text = SavedText(plot, platform);
-    const std::vector<float> numbers = NumbersOf(plot);
-    std::vector<std::string> digits;
-    for (const float number : numbers)
-        digits.push_back(FormatValue(number, {}));
-    const std::vector<std::string_view> views(digits.begin(), digits.end());
+    plot.ShowTrace(sample);
+    for (std::size_t i = 0; i < plot.Instance().SPA.PointLevel.size(); ++i)
+        plot.Instance().SPA.PointLevel[i] += static_cast<float>(
+            std::round(7000 * std::sin(static_cast<double>(i) * (0.3 + 0.01 * variant))) / 1000);
+    SpectrumText made;
+    made.Text = SavedText(plot, platform);
+    for (const float number : NumbersOf(plot))
+        made.Numbers.push_back(NumberText(number));
+    return made;
+}
+
+void ParseSpectrum(Report& report)
+{
+    const Bytes sample = ReadSample("spa_fm_broadcast_401pts.raw");
+    std::vector<SpectrumText> texts;
+    for (int variant = 0; variant < Variants; ++variant)
+        texts.push_back(MakeSpectrumText(sample, variant));
+    for (SpectrumText& text : texts)
+        text.Views.assign(text.Numbers.begin(), text.Numbers.end());
+    HeadlessPlatform platform;
+    Plot plot(platform);
+    plot.ShowTrace(sample);
     Control& control = plot.Instance();
+    const auto at = [&](int call) -> const SpectrumText& {
+        return texts[static_cast<std::size_t>(call % Variants)];
+    };
+    const auto parse = [&](int call) {
+        const TraceText traceText(at(call).Text);
+        HeaderFromText(traceText, control.Header, control.lstParameters);
+        LoadSPARecord(control, traceText);
+    };
     report.Add("parse a spectrum's text / read its numbers",
-               TimeInTurns(
-                   [&](int) {
-                       const TraceText traceText(text);
-                       HeaderFromText(traceText, control.Header, control.lstParameters);
-                       LoadSPARecord(control, traceText);
-                   },
-                   [&](int) { ReadNumbers(views); }),
-               3);
+               TimeInTurns(parse, [&](int call) { ReadNumbers(at(call).Views); }), 3);
 }
 
 void ParseText(Control& control, const std::string& text)
