@@ -33,6 +33,7 @@ inline constexpr FamilySample FamilySamples[] = {
     {"spectrum", "spa_fm_broadcast_401pts.raw"},   {"channel scan", "cs_gsm_cell_20ch.raw"},
     {"spectrogram", "spg_hopping_80sweeps.raw"},   {"power meter", "pm_transmitter_cal_dbm.raw"},
     {"power monitor", "pmon_feed_percent.raw"},    {"high accuracy power meter", "hipm_in_range.raw"},
+    {"T1 histogram", "t1_bursts_100slices.raw"},   {"E1 level", "e1_vpp_dbdsx.raw"},
     {"CDMA codes", "cdma_cell_128codes_v320.raw"}, {"CDMA spectrum", "cdma_spectrum_v320.raw"},
     {"EV-DO codes", "evdo_mac_128codes_v320.raw"}, {"EV-DO slot", "evdo_active_slot_v314.raw"},
 };

@@ -26,6 +26,9 @@ std::vector<Sample> SpectrumSamples();
 /// Power meter, power monitor and high accuracy power meter.
 std::vector<Sample> PowerSamples();
 
+/// T1 and E1 line tests.
+std::vector<Sample> LineTestSamples();
+
 /// Code domains of CDMA cells.
 std::vector<Sample> CdmaSamples();
 

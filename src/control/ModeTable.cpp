@@ -16,6 +16,8 @@
 #include "modes/power/ZephraTrace.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/spectrogram/SpectroView.h"
+#include "modes/t1e1/E1T1Trace.h"
+#include "modes/t1e1/E1T1View.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/SPAView.h"
 #include "modes/vna_spa/VNATrace.h"
@@ -151,6 +153,27 @@ constexpr ModeRow HighAccuracyPower = {
     .TextFile = &HIPMFile,
 };
 
+// Line tests.
+
+constexpr FileKind E1T1File = {"ET1", LoadE1T1Text, EncodeE1T1Text};
+
+constexpr ModeRow LineTest(std::uint8_t mode)
+{
+    return {
+        .Mode = mode,
+        .Holder = &ChildControls::E1T1Holder,
+        .Markers = &Control::E1T1Markers,
+        .Decode = DecodeE1T1,
+        .FillCurve = FillE1T1Curve,
+        .Params = E1T1Params,
+        .View = DrawE1T1Trace,
+        .EncodeRecord = EncodeE1T1Record,
+        .EncodeRaw = EncodeE1T1Raw,
+        .Position = E1T1Position,
+        .TextFile = &E1T1File,
+    };
+}
+
 // CDMA.
 
 constexpr FileKind CDMAFile = {"CDMA", LoadCDMAText, EncodeCDMAText};
@@ -208,13 +231,15 @@ constexpr ModeRow Modes[] = {
     PowerMeter,
     PowerMonitor,
     HighAccuracyPower,
+    LineTest(TraceMode::T1),
+    LineTest(TraceMode::E1),
     CodeDomain,
     DataOptimized,
 };
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
-    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile, EvDOFile,
+    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, E1T1File, CDMAFile, EvDOFile,
 };
 
 } // namespace

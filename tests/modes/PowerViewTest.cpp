@@ -4,7 +4,7 @@
 #include "control/Plot.h"
 #include "formats/Numbers.h"
 #include "modes/power/PowerLadder.h"
-#include "modes/power/PowerPanel.h"
+#include "chart/Panel.h"
 #include "output/Describe.h"
 #include "support/RawPower.h"
 

@@ -1,12 +1,11 @@
 #include "modes/cdma/CodeChart.h"
 
+#include "chart/ChartView.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/CodeTable.h"
-#include "formats/HostFault.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace Traces {
 
@@ -18,19 +17,6 @@ constexpr float PanelTop = 360, PanelMiddle = 420, PanelBottom = 480;
 constexpr float CellEdge1 = 183, CellEdge2 = 366, PageWidth = 600;
 
 } // namespace
-
-void CheckCurvePoint(const TraceSlot& slot, std::size_t point)
-{
-    if (!std::isfinite(slot.X[point]) || !std::isfinite(slot.Y[point]))
-        throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
-}
-
-std::string TitleOfPath(std::string_view traceName)
-{
-    if (traceName.starts_with("C:\\"))
-        traceName.remove_prefix(traceName.rfind('\\') + 1);
-    return std::string(traceName);
-}
 
 bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window)
 {

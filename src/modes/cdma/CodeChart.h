@@ -7,22 +7,14 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace Traces {
 
 struct Control;
-struct TraceSlot;
-
-/// A trace's title: of a path on drive C what stands behind its last backslash, anything else whole.
-std::string TitleOfPath(std::string_view traceName);
 
 /// Scales a chart to a window, a hundredth wider at both sides, and stores the window as the zoom's. False,
 /// with nothing changed, for one without a span.
 bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window);
-
-/// @throws HostFault Overflow for a point that isn't finite.
-void CheckCurvePoint(const TraceSlot& slot, std::size_t point);
 
 /// Half of what each point of slot 0 has of the chart's width.
 float HalfBarWidth(const Control& control, const ChartSurface& box);
