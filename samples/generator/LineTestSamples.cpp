@@ -21,7 +21,7 @@ enum Flag : std::uint8_t { AnyError = 1, CrcError = 2, BpvError = 4, FrameLoss =
 
 /// A stretch of the test in which the line is bad.
 struct Burst {
-    int From, To;         ///< slices, the last included
+    int From, To; ///< slices, the last included
     double BitErrorRate;
     bool LosesCarrier = false;
 };
@@ -94,8 +94,9 @@ private:
 
     void PutSettings()
     {
-        const std::uint8_t codes[] = {0, settings.Framing, settings.LineCode, 1, 1, 2, 2, 1, 0,
-                                      settings.Display, 2, settings.Pattern, 0};
+        const std::uint8_t codes[] = {
+            0, settings.Framing, settings.LineCode, 1, 1, 2, 2, 1, 0, settings.Display, 2, settings.Pattern,
+            0};
         std::size_t offset = 57;
         for (const std::uint8_t code : codes)
             raw.PutByte(offset++, code);
@@ -112,9 +113,9 @@ private:
 
     const Burst* BurstAt(int slice) const
     {
-        const auto found = std::find_if(settings.Bursts.begin(), settings.Bursts.end(), [&](const Burst& burst) {
-            return slice >= burst.From && slice <= burst.To;
-        });
+        const auto found =
+            std::find_if(settings.Bursts.begin(), settings.Bursts.end(),
+                         [&](const Burst& burst) { return slice >= burst.From && slice <= burst.To; });
         return found == settings.Bursts.end() ? nullptr : &*found;
     }
 
@@ -161,8 +162,13 @@ private:
 
     void PutTotals()
     {
-        const double counts[] = {totals.Bpv, totals.Crc, totals.FrameErrors, totals.LostFrames, totals.FarEnd,
-                                 static_cast<double>(totals.ErroredSeconds), BitsPerSecond() * Seconds(),
+        const double counts[] = {totals.Bpv,
+                                 totals.Crc,
+                                 totals.FrameErrors,
+                                 totals.LostFrames,
+                                 totals.FarEnd,
+                                 static_cast<double>(totals.ErroredSeconds),
+                                 BitsPerSecond() * Seconds(),
                                  totals.BitErrors};
         std::size_t offset = 82;
         for (const double count : counts) {
@@ -213,19 +219,22 @@ private:
         int worst = 0, flagged = 0;
         std::int32_t sum = 0;
         for (int i = 0; i < static_cast<int>(Slices); ++i) {
-            const auto countAt = [&](int slice) { return RawI32(bytes, 157 + 5 * static_cast<std::size_t>(slice)); };
+            const auto countAt = [&](int slice) {
+                return RawI32(bytes, 157 + 5 * static_cast<std::size_t>(slice));
+            };
             sum += countAt(i);
             worst = countAt(i) > countAt(worst) ? i : worst;
             flagged += bytes[155 + 5 * static_cast<std::size_t>(i)] != 0 ? 1 : 0;
         }
         std::vector<std::string> facts = {
             "Bit errors " + std::to_string(sum) + " in " + std::to_string(flagged) + " slices of " +
-                std::to_string(settings.SlicesUsed) +
-                (sum > 0 ? ", most in slice " + std::to_string(worst + 1) : std::string()) + "; " +
-                std::to_string(RawI32(bytes, 102)) + " errored and " + std::to_string(RawI32(bytes, 690)) +
-                " severely errored seconds."};
+            std::to_string(settings.SlicesUsed) +
+            (sum > 0 ? ", most in slice " + std::to_string(worst + 1) : std::string()) + "; " +
+            std::to_string(RawI32(bytes, 102)) + " errored and " + std::to_string(RawI32(bytes, 690)) +
+            " severely errored seconds."};
         if (settings.Display == 2)
-            facts.push_back("Level " + Fixed(settings.VppLevel, 1) + (settings.VppScaling != 0 ? " dBdsx." : " Vpp."));
+            facts.push_back("Level " + Fixed(settings.VppLevel, 1) +
+                            (settings.VppScaling != 0 ? " dBdsx." : " Vpp."));
         if (settings.Display == 3)
             facts.push_back("Tone of " + std::to_string(RawI16(bytes, 682)) + " Hz at " +
                             Fixed((RawI16(bytes, 680) - 401) / 10.0, 1) + " dBm on channel 17.");
@@ -276,10 +285,11 @@ std::vector<Sample> LineTestSamples()
     volts.Shows = "the level of a T1 line in volts";
     volts.SlicesUsed = 0;
     volts.Display = 2;
-    Settings decibels = volts;
+    Settings decibels = e1;
     decibels.File = "e1_vpp_dbdsx.raw";
     decibels.Shows = "the level of an E1 line in dBdsx";
-    decibels.Mode = E1Mode;
+    decibels.SlicesUsed = 0;
+    decibels.Display = 2;
     decibels.VppScaling = 1;
     decibels.VppLevel = -7.4;
     Settings tone = volts;

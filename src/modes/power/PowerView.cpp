@@ -106,7 +106,8 @@ void DrawDecibelScale(Control& control)
         const bool isLong = decibels % LongTickEvery == 0;
         DrawTick(holder, place, isLong);
         if (isLong)
-            DrawCentred(holder, FormatValue(decibels, "##0"), FirstTick + TickStep * place, ScaleTextTop, SmallText);
+            DrawCentred(holder, FormatValue(decibels, "##0"), FirstTick + TickStep * place, ScaleTextTop,
+                        SmallText);
     }
     DrawBar(control.PowerBar, static_cast<float>(*first), ticks, reading);
 }

@@ -44,8 +44,8 @@ struct VppScale {
 };
 
 constexpr VppScale Decibels = {"dBdsx", "#0.00 dB", "##0", "dBdsx", 225, -35, 5, 5, 25, 10, -37, 7, -35};
-constexpr VppScale Volts = {"Peak to Peak Voltage", "#0.00 VPP", "0", "Vpp", 264, -1, 9, 1, 24, 4, -1.4F,
-                            9.4F, -1};
+constexpr VppScale Volts = {
+    "Peak to Peak Voltage", "#0.00 VPP", "0", "Vpp", 264, -1, 9, 1, 24, 4, -1.4F, 9.4F, -1};
 
 void DrawTicks(ChartSurface& holder, const VppScale& scale)
 {

@@ -40,7 +40,9 @@ template <std::size_t Rows>
 void DrawTable(ChartSurface& pane, const std::array<PaneRow, Rows>& rows, int top, int rowHeight, int inset,
                int valueRight)
 {
-    PaneTable(pane, {.Rows = Rows, .Left = PanelLeft, .Top = top, .RowHeight = rowHeight, .LabelWidth = LabelWidth});
+    PaneTable(
+        pane,
+        {.Rows = Rows, .Left = PanelLeft, .Top = top, .RowHeight = rowHeight, .LabelWidth = LabelWidth});
     int y = top + inset;
     for (const PaneRow& row : rows) {
         PanePrint(pane, row.Label, y, LabelLeft, TextSize);

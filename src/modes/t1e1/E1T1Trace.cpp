@@ -44,7 +44,8 @@ void AddSlices(const E1T1Record& record, ParameterList& lines)
 {
     for (std::size_t i = 0; i < record.Slices.size(); ++i) {
         std::string& line = lines.BeginLine();
-        line += SliceKey(i) + '\t' + NumberText(record.Slices[i].SliceFlags) + '\t' + NumberText(record.Slices[i].SliceCount);
+        line += SliceKey(i) + '\t' + NumberText(record.Slices[i].SliceFlags) + '\t' +
+                NumberText(record.Slices[i].SliceCount);
         lines.EndLine();
     }
 }

@@ -95,8 +95,8 @@ void DrawTimes(Control& control)
     Put(control, "Msr Dur:", 4, 280);
     Put(control, record.MeasurementDuration, 4, 296);
     Put(control, record.StartTime, 100, top);
-    DrawCentred(holder, record.HistogramResolution + " Updates", WholeUnits(chart.Left + chart.Width / 2), top,
-                TextSize);
+    DrawCentred(holder, record.HistogramResolution + " Updates", WholeUnits(chart.Left + chart.Width / 2),
+                top, TextSize);
     DrawEnding(holder, record.StopTime, 540, top, TextSize);
     if (!TrimBlanks(record.BitErrorRate).empty())
         Put(control, "BER = " + record.BitErrorRate, 10, footTop);
