@@ -8,7 +8,9 @@
 #include "control/TextLoader.h"
 #include "formats/Checksum.h"
 #include "formats/Files.h"
+#include "formats/Numbers.h"
 #include "formats/TraceHeader.h"
+#include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
 
 #include <array>
@@ -117,6 +119,93 @@ void ScaleNumbers(const Bytes& raw)
     Keep(phases);
 }
 
+/// All numbers that a trace's parameter lines say.
+std::vector<float> NumbersOf(const Plot& plot)
+{
+    std::vector<float> numbers;
+    for (const std::string& line : plot.Parameters()) {
+        std::string_view rest = line;
+        for (std::size_t tab = rest.find('\t'); tab != std::string_view::npos; tab = rest.find('\t')) {
+            rest.remove_prefix(tab + 1);
+            float number = 0;
+            if (std::from_chars(rest.data(), rest.data() + rest.size(), number).ec == std::errc())
+                numbers.push_back(number);
+        }
+    }
+    return numbers;
+}
+
+/// Every family but the sweeps: the whole way in, against its numbers' way into text.
+void ShowFamilies(Report& report)
+{
+    for (const FamilySample& family : FamilySamples) {
+        HeadlessPlatform platform;
+        Plot plot(platform);
+        const Bytes raw = ReadSample(family.File);
+        plot.ShowTrace(raw);
+        const std::vector<float> numbers = NumbersOf(plot);
+        const std::string what = "show and record: " + std::string(family.What) + ", " +
+                                 std::to_string(numbers.size()) + " numbers";
+        const auto show = [&](int) {
+            plot.ShowTrace(raw);
+            platform.Messages.clear();
+        };
+        const Times times = TimeInTurns(show, [&](int) { FormatNumbers(numbers); });
+        // A view of few numbers costs more than they do.
+        constexpr std::size_t many = 400;
+        if (numbers.size() < many)
+            report.Note(what, times);
+        else
+            report.Add(what, times, 3);
+    }
+}
+
+/// A spectrum's saved text with levels of its own, and the numbers in it.
+struct SpectrumText {
+    std::string Text;
+    std::vector<std::string> Numbers;
+    std::vector<std::string_view> Views; ///< of Numbers
+};
+
+SpectrumText MakeSpectrumText(const Bytes& sample, int variant)
+{
+    HeadlessPlatform platform;
+    Plot plot(platform);
+    plot.ShowTrace(sample);
+    for (std::size_t i = 0; i < plot.Instance().SPA.PointLevel.size(); ++i)
+        plot.Instance().SPA.PointLevel[i] += static_cast<float>(
+            std::round(7000 * std::sin(static_cast<double>(i) * (0.3 + 0.01 * variant))) / 1000);
+    SpectrumText made;
+    made.Text = SavedText(plot, platform);
+    for (const float number : NumbersOf(plot))
+        made.Numbers.push_back(NumberText(number));
+    return made;
+}
+
+void ParseSpectrum(Report& report)
+{
+    const Bytes sample = ReadSample("spa_fm_broadcast_401pts.raw");
+    std::vector<SpectrumText> texts;
+    for (int variant = 0; variant < Variants; ++variant)
+        texts.push_back(MakeSpectrumText(sample, variant));
+    for (SpectrumText& text : texts)
+        text.Views.assign(text.Numbers.begin(), text.Numbers.end());
+    HeadlessPlatform platform;
+    Plot plot(platform);
+    plot.ShowTrace(sample);
+    Control& control = plot.Instance();
+    const auto at = [&](int call) -> const SpectrumText& {
+        return texts[static_cast<std::size_t>(call % Variants)];
+    };
+    const auto parse = [&](int call) {
+        const TraceText traceText(at(call).Text);
+        HeaderFromText(traceText, control.Header, control.lstParameters);
+        LoadSPARecord(control, traceText);
+    };
+    report.Add("parse a spectrum's text / read its numbers",
+               TimeInTurns(parse, [&](int call) { ReadNumbers(at(call).Views); }), 3);
+}
+
 void ParseText(Control& control, const std::string& text)
 {
     const TraceText traceText(text);
@@ -168,6 +257,8 @@ int main()
                TimeInTurns([&](int) { plot.LoadVNAText(longer, ""); },
                            [&](int) { plot.LoadVNAText(sweeps[0].Text, ""); }),
                12);
+    ShowFamilies(report);
+    ParseSpectrum(report);
     if (!platform.Messages.empty()) {
         std::printf("A file didn't verify: the figures mean nothing.\n");
         return 1;

@@ -176,6 +176,12 @@ int main()
     bool kept = MemoryStaysFlat(plot, pictures, sample, folder);
     Report report;
     report.Add("replay of a sweep's view / plain QPainter calls", MeasureReplay(plot), 1.15);
+    for (const FamilySample& family : FamilySamples) {
+        Plot other(platform);
+        other.Resize(Width, Height);
+        other.ShowTrace(ReadSample(family.File));
+        report.Add("the same: " + std::string(family.What), MeasureReplay(other), 1.15);
+    }
     const FilesResult files = MeasureFiles(plot, pictures, sample, folder);
     report.Add("raw trace to PNG file / QPainter and QImage::save", files.Microseconds, 0.4);
     std::printf("%d files: ours %ju bytes, theirs %ju bytes\n", Pictures, files.Ours, files.Theirs);

@@ -1,5 +1,5 @@
-// Sweeps to measure with: the sample of 601 points, and variants of it that differ in every point, so that
-// no cache and no branch predictor learns them by heart.
+// Traces to measure with: a sample of each family; of sweeps the sample of 601 points and variants of it that
+// differ in every point, so that no cache and no branch predictor learns them by heart.
 #pragma once
 
 #include "modes/vna_spa/VNAFields.h"
@@ -17,11 +17,27 @@ using Bytes = std::vector<std::uint8_t>;
 
 inline constexpr std::size_t SweepPoints = 601;
 
-inline Bytes ReadSample()
+inline Bytes ReadSample(const std::string& name = "rl_dualband_antenna_601pts.raw")
 {
-    std::ifstream file(TRACES_SAMPLES_FOLDER "/rl_dualband_antenna_601pts.raw", std::ios::binary);
+    std::ifstream file(TRACES_SAMPLES_FOLDER "/" + name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
+
+struct FamilySample {
+    const char* What;
+    const char* File;
+};
+
+/// The largest trace of each family but the sweeps.
+inline constexpr FamilySample FamilySamples[] = {
+    {"spectrum", "spa_fm_broadcast_401pts.raw"},   {"channel scan", "cs_gsm_cell_20ch.raw"},
+    {"spectrogram", "spg_hopping_80sweeps.raw"},   {"power meter", "pm_transmitter_cal_dbm.raw"},
+    {"power monitor", "pmon_feed_percent.raw"},    {"high accuracy power meter", "hipm_in_range.raw"},
+    {"T1 histogram", "t1_bursts_100slices.raw"},   {"E1 level", "e1_vpp_dbdsx.raw"},
+    {"CDMA codes", "cdma_cell_128codes_v320.raw"}, {"CDMA spectrum", "cdma_spectrum_v320.raw"},
+    {"GSM spectrum", "gsm_spectrum_v320.raw"},     {"GSM slot", "gsm_slot_bad_v320.raw"},
+    {"EV-DO codes", "evdo_mac_128codes_v320.raw"}, {"EV-DO slot", "evdo_active_slot_v314.raw"},
+};
 
 /// Where a number of a sweep's points begins: magnitudes are even, phases odd.
 inline std::size_t PlaceOfNumber(std::size_t number)

@@ -1,5 +1,6 @@
-// The widget in a real window: a step of a drag, from the mouse's move to the painted frame, and a resize,
-// each against painting the whole control once. Run it under xvfb-run where there is no display.
+// The widget in a real window: a step of a drag, from the mouse's move to the painted frame, a resize, and an
+// arrow key that moves a marker along the codes, each against painting the whole control once. Run it under
+// xvfb-run where there is no display.
 #include "Measure.h"
 #include "SampleTraces.h"
 #include "control/Control.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -19,6 +21,7 @@ using namespace Traces::Bench;
 
 constexpr double LongestDragStep = 2000; ///< microseconds of processor time
 constexpr double LongestResize = 5000;
+constexpr double LongestKeyStep = 1000;
 
 void SendMouse(PlotWidget& widget, QEvent::Type type, QPointF place, Qt::MouseButton button,
                Qt::MouseButtons buttons)
@@ -33,6 +36,16 @@ auto DragStep(PlotWidget& widget)
     return [&widget](int call) {
         const QPointF place(100 + call % 300, 200 + call % 100);
         SendMouse(widget, QEvent::MouseMove, place, Qt::NoButton, Qt::LeftButton);
+        widget.repaint();
+    };
+}
+
+/// An arrow key there and back again, each painted at once.
+auto KeyStep(PlotWidget& widget)
+{
+    return [&widget](int call) {
+        QKeyEvent event(QEvent::KeyPress, call / 20 % 2 == 0 ? Qt::Key_Right : Qt::Key_Left, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &event);
         widget.repaint();
     };
 }
@@ -75,7 +88,7 @@ int main(int argc, char** argv)
     const double left = static_cast<double>(control.VNABox.Left) * control.VNAHolder.PixelsPerUnitX();
     SendMouse(widget, QEvent::MouseButtonPress, {left + 1, 200}, Qt::LeftButton, Qt::LeftButton);
     report.Add("step of a marker's drag / painting the whole control", TimeInTurns(DragStep(widget), whole),
-               1.5);
+               3);
     SendMouse(widget, QEvent::MouseButtonRelease, {300, 300}, Qt::LeftButton, Qt::NoButton);
 
     const auto resize = [&](int call) {
@@ -84,8 +97,25 @@ int main(int argc, char** argv)
     };
     const Times resized = TimeInTurns(resize, whole);
     report.Add("resize to the painted frame / painting the whole control", resized, 8);
+
+    widget.resize(550, 480);
+    widget.Plot().ShowTrace(ReadSample("cdma_cell_128codes_v320.raw"));
+    QCoreApplication::processEvents();
+    Control& state = widget.Plot().Instance();
+    // A press takes the keys to the chart; that of an arrow key takes a selected marker.
+    SendMouse(widget, QEvent::MouseButtonPress, {200, 200}, Qt::LeftButton, Qt::LeftButton);
+    SendMouse(widget, QEvent::MouseButtonRelease, {200, 200}, Qt::LeftButton, Qt::NoButton);
+    state.CDMAMarkers.SelectedMarker = 0;
+    const auto before = state.CDMAMarkers.MarkerIndex;
+    KeyStep(widget)(0);
+    const bool moved = state.CDMAMarkers.MarkerIndex != before;
+    const Times keyed = TimeInTurns(KeyStep(widget), whole);
+    report.Add("step of a marker by key, 128 codes / painting the whole control", keyed, 5);
+    if (!moved)
+        std::printf("a key moved no marker\n");
     if (!overlayAlone)
         std::printf("a drag painted a picture anew\n");
-    const bool inTime = zoom.Ours < LongestDragStep && resized.Ours < LongestResize;
-    return overlayAlone && inTime ? report.ExitStatus() : 1;
+    const bool inTime =
+        zoom.Ours < LongestDragStep && resized.Ours < LongestResize && keyed.Ours < LongestKeyStep;
+    return overlayAlone && moved && inTime ? report.ExitStatus() : 1;
 }

@@ -110,17 +110,35 @@ void SetByHost(Plot& plot, std::uint8_t choice, std::span<const std::uint8_t, 4>
         UseMouse(state, values);
 }
 
+/// How many points a shown trace has: some records hold a fixed number, whatever their head tells.
+int PointsOf(const TraceHeader& header)
+{
+    switch (header.Mode) {
+    case TraceMode::T1:
+    case TraceMode::E1: return 100;
+    case TraceMode::GSM: return 401;
+    default: return header.DataPoints;
+    }
+}
+
 void CheckShown(Plot& plot)
 {
     const Control& state = plot.Instance();
     const ModeRow* row = CurrentRow(state);
     Check(row != nullptr && state.CurrentMode == state.Header.Mode, "what is shown is the trace's own mode");
     Check(!plot.AutoScaleY(), "a new trace has its own limits");
-    Check(row->FillCurve == nullptr || plot.count() == state.Header.DataPoints, "the curve has all points");
+    // A code measurement's curve is that of the chart it shows.
+    const bool codes = row->Mode == TraceMode::CDMA || row->Mode == TraceMode::EvDO;
+    Check(row->FillCurve == nullptr || codes || plot.count() == PointsOf(state.Header),
+          "the curve has all points");
     const auto lines = plot.Parameters();
     plot.TraceInfo();
     Check(plot.Parameters() == lines, "a report leaves the list alone");
-    Check(plot.ParametersToSave() == lines, "a save writes what the decoder listed");
+    // The chart of a code measurement mends its record: a missing count of codes, a marker beyond the last
+    // one.
+    Check(codes || plot.ParametersToSave() == lines, "a save writes what the decoder listed");
+    if (codes)
+        plot.RedrawTrace();
     const DisplayList picture = (state.*row->Holder).Picture();
     plot.RedrawTrace();
     Check((state.*row->Holder).Picture() == picture, "a redraw draws the same");

@@ -26,8 +26,14 @@ std::vector<Sample> SpectrumSamples();
 /// Power meter, power monitor and high accuracy power meter.
 std::vector<Sample> PowerSamples();
 
+/// T1 and E1 line tests.
+std::vector<Sample> LineTestSamples();
+
 /// Code domains of CDMA cells.
 std::vector<Sample> CdmaSamples();
+
+/// GSM bursts.
+std::vector<Sample> GsmSamples();
 
 /// MAC and data codes of EV-DO sectors.
 std::vector<Sample> EvdoSamples();

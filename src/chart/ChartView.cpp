@@ -23,9 +23,13 @@ void ForEachDivision(float from, float to, Draw draw)
         draw(place);
 }
 
-bool IsDrawable(const TraceSlot& slot, std::size_t point)
+void DrawCurve(const TraceSlot& slot, ChartSurface& box, Colour colour)
 {
-    return std::isfinite(slot.X[point]) && std::isfinite(slot.Y[point]);
+    for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i) {
+        CheckCurvePoint(slot, i - 1);
+        CheckCurvePoint(slot, i);
+        box.Line(slot.X[i - 1], slot.Y[i - 1], slot.X[i], slot.Y[i], colour);
+    }
 }
 
 Colour MarkerColour(const Control& control, const MarkerSet& markers, int marker)
@@ -63,17 +67,24 @@ void ScaleBox(ChartSurface& box, const ChartWindow& window)
     box.ScaleTop = window.Ymax;
 }
 
+void CheckCurvePoint(const TraceSlot& slot, std::size_t point)
+{
+    if (!std::isfinite(slot.X[point]) || !std::isfinite(slot.Y[point]))
+        throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
+}
+
 void DrawCurves(const Control& control, ChartSurface& box, std::size_t first)
 {
     box.DrawStyle = LineStyle::Solid;
-    for (std::size_t t = first; t < LiveSlots; ++t) {
-        const TraceSlot& slot = control.TraceSlots[t];
-        for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i) {
-            if (!IsDrawable(slot, i - 1) || !IsDrawable(slot, i))
-                throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
-            box.Line(slot.X[i - 1], slot.Y[i - 1], slot.X[i], slot.Y[i], control.TraceColors[t]);
-        }
-    }
+    for (std::size_t t = first; t < LiveSlots; ++t)
+        DrawCurve(control.TraceSlots[t], box, control.TraceColors[t]);
+}
+
+void DrawYellowCurves(const Control& control, ChartSurface& box)
+{
+    box.DrawStyle = LineStyle::Solid;
+    for (std::size_t t = 0; t < LiveSlots; ++t)
+        DrawCurve(control.TraceSlots[t], box, RGB(255, 255, 0));
 }
 
 void DrawGraticule(const Control& control, ChartSurface& box, const ChartWindow& window)

@@ -9,6 +9,7 @@
 namespace Traces {
 
 struct Control;
+struct TraceSlot;
 
 /// Begins a view: both surfaces draw into their empty pictures.
 void BeginView(ChartSurface& holder, ChartSurface& box);
@@ -19,9 +20,16 @@ void EndView(ChartSurface& holder, ChartSurface& box);
 /// Gives the box the window as its user system, Y upwards.
 void ScaleBox(ChartSurface& box, const ChartWindow& window);
 
+/// @throws HostFault Overflow for a point that isn't finite.
+void CheckCurvePoint(const TraceSlot& slot, std::size_t point);
+
 /// The slots from `first` to 5, each in its colour. What lies outside of the box falls off the surface.
 /// @throws HostFault Overflow at a point that isn't finite.
 void DrawCurves(const Control& control, ChartSurface& box, std::size_t first = 0);
+
+/// The points of every slot that has more than one, joined in yellow.
+/// @throws HostFault Overflow at a point that isn't finite.
+void DrawYellowCurves(const Control& control, ChartSurface& box);
 
 /// Ten dotted divisions each way, whatever the range.
 void DrawGraticule(const Control& control, ChartSurface& box, const ChartWindow& window);

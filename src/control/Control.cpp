@@ -40,7 +40,8 @@ void SetColours(Control& control)
 void SetUpLevelLabels(Control& control)
 {
     constexpr Colour panelGrey = RGB(170, 170, 170);
-    for (Label* label : {&control.PowerLabel, &control.ZephraPowerLabel, &control.ZephraPowerLabelUnit}) {
+    for (Label* label : {&control.PowerLabel, &control.ZephraPowerLabel, &control.ZephraPowerLabelUnit,
+                         &control.VppLabel, &control.VFFreqLabel, &control.VFPowerLabel}) {
         label->Visible = true;
         label->BackColor = panelGrey;
         label->ForeColor = Black;

@@ -16,6 +16,7 @@
 #include "modes/power/PowerRecord.h"
 #include "modes/power/ZephraRecord.h"
 #include "modes/spectrogram/SpectroRecord.h"
+#include "modes/t1e1/E1T1Record.h"
 #include "modes/vna_spa/SPARecord.h"
 #include "modes/vna_spa/VNARecord.h"
 
@@ -72,6 +73,7 @@ struct Control : private Screen, public ChildControls {
     ZephraRecord Zephra;
     double PowerLadderValue = 0; ///< what the power views scaled last; a view may show it of the trace before
     std::string PowerLadderUnit;
+    E1T1Record E1T1;
     CDMARecord CDMA;
     GSMRecord GSM;
     bool CDMAIs128 = false;      ///< the codes stand in bit-reversed order

@@ -33,6 +33,9 @@ struct LabelPlace {
 /// A level that is read across a room.
 constexpr float LevelFontSize = 48;
 
+/// Two levels on one panel.
+constexpr float HalfLevelFontSize = 26;
+
 /// In holder coordinates. Boxes that a view places itself aren't listed.
 constexpr auto BoxPlaces = std::to_array<BoxPlace>({
     {&ChildControls::VNABox, {4, 42, 542, 380}},
@@ -55,9 +58,9 @@ constexpr auto LabelPlaces = std::to_array<LabelPlace>({
     {&ChildControls::PowerLabel, {50, 100, 450, 100}, LevelFontSize},
     {&ChildControls::ZephraPowerLabel, {50, 100, 450, 100}, LevelFontSize},
     {&ChildControls::ZephraPowerLabelUnit, {50, 240, 450, 100}, LevelFontSize},
-    {&ChildControls::VppLabel, {50, 100, 450, 100}},
-    {&ChildControls::VFFreqLabel, {90, 150, 370, 50}},
-    {&ChildControls::VFPowerLabel, {90, 250, 370, 50}},
+    {&ChildControls::VppLabel, {50, 100, 450, 100}, LevelFontSize},
+    {&ChildControls::VFFreqLabel, {90, 150, 370, 50}, HalfLevelFontSize},
+    {&ChildControls::VFPowerLabel, {90, 250, 370, 50}, HalfLevelFontSize},
 });
 
 template <class Child>

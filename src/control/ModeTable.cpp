@@ -10,15 +10,17 @@
 #include "modes/evdo/EvDOChart.h"
 #include "modes/evdo/EvDOTrace.h"
 #include "modes/evdo/EvDOView.h"
+#include "modes/gsm/GSMChart.h"
+#include "modes/gsm/GSMTrace.h"
+#include "modes/gsm/GSMView.h"
 #include "modes/power/PowerMeterTrace.h"
 #include "modes/power/PowerMonitorTrace.h"
 #include "modes/power/PowerView.h"
 #include "modes/power/ZephraTrace.h"
-#include "modes/gsm/GSMChart.h"
-#include "modes/gsm/GSMTrace.h"
-#include "modes/gsm/GSMView.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/spectrogram/SpectroView.h"
+#include "modes/t1e1/E1T1Trace.h"
+#include "modes/t1e1/E1T1View.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/SPAView.h"
 #include "modes/vna_spa/VNATrace.h"
@@ -154,6 +156,27 @@ constexpr ModeRow HighAccuracyPower = {
     .TextFile = &HIPMFile,
 };
 
+// Line tests.
+
+constexpr FileKind E1T1File = {"ET1", LoadE1T1Text, EncodeE1T1Text};
+
+constexpr ModeRow LineTest(std::uint8_t mode)
+{
+    return {
+        .Mode = mode,
+        .Holder = &ChildControls::E1T1Holder,
+        .Markers = &Control::E1T1Markers,
+        .Decode = DecodeE1T1,
+        .FillCurve = FillE1T1Curve,
+        .Params = E1T1Params,
+        .View = DrawE1T1Trace,
+        .EncodeRecord = EncodeE1T1Record,
+        .EncodeRaw = EncodeE1T1Raw,
+        .Position = E1T1Position,
+        .TextFile = &E1T1File,
+    };
+}
+
 // CDMA.
 
 constexpr FileKind CDMAFile = {"CDMA", LoadCDMAText, EncodeCDMAText};
@@ -230,6 +253,8 @@ constexpr ModeRow Modes[] = {
     PowerMeter,
     PowerMonitor,
     HighAccuracyPower,
+    LineTest(TraceMode::T1),
+    LineTest(TraceMode::E1),
     CodeDomain,
     Burst,
     DataOptimized,
@@ -237,7 +262,8 @@ constexpr ModeRow Modes[] = {
 
 /// By the extensions that loading by name knows.
 constexpr FileKind Files[] = {
-    VNAFile, SPAFile, CSFile, SpectroFile, PMETFile, PMFile, PMONFile, HIPMFile, CDMAFile, GSMFile, EvDOFile,
+    VNAFile,  SPAFile,  CSFile,   SpectroFile, PMETFile, PMFile,
+    PMONFile, HIPMFile, E1T1File, CDMAFile,    GSMFile,  EvDOFile,
 };
 
 } // namespace

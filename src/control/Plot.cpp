@@ -19,6 +19,7 @@
 #include "modes/power/ZephraTrace.h"
 #include "modes/gsm/GSMTrace.h"
 #include "modes/spectrogram/SpectroTrace.h"
+#include "modes/t1e1/E1T1Trace.h"
 #include "modes/vna_spa/SPATrace.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "output/Capture.h"
@@ -101,6 +102,11 @@ void Plot::LoadVNAText(std::string_view TraceString, const std::string& path)
 void Plot::LoadSPAText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadSPAText(*control, TraceString, path);
+}
+
+void Plot::LoadE1T1Text(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadE1T1Text(*control, TraceString, path);
 }
 
 void Plot::LoadCDMAText(std::string_view TraceString, const std::string& path)

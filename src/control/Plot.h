@@ -62,6 +62,7 @@ public:
     /// made. A message is shown, and nothing changes, when the checksum fails.
     void LoadVNAText(std::string_view TraceString, const std::string& path);
     void LoadSPAText(std::string_view TraceString, const std::string& path);
+    void LoadE1T1Text(std::string_view TraceString, const std::string& path);
     void LoadCDMAText(std::string_view TraceString, const std::string& path);
     void LoadCDMAText_v320_above(std::string_view TraceString, const std::string& path);
     void LoadEvDOText(std::string_view TraceString, const std::string& path);

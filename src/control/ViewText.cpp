@@ -15,6 +15,13 @@ float ScaledFontSize(const Screen& screen, float size)
 
 } // namespace
 
+std::string TitleOfPath(std::string_view traceName)
+{
+    if (traceName.starts_with("C:\\"))
+        traceName.remove_prefix(traceName.rfind('\\') + 1);
+    return std::string(traceName);
+}
+
 int WholeUnits(double value)
 {
     constexpr double limit = 1E9;

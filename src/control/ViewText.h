@@ -3,6 +3,7 @@
 
 #include "control/ChartSurface.h"
 
+#include <string>
 #include <string_view>
 
 namespace Traces {
@@ -20,6 +21,9 @@ void SetBoxFont(ChartSurface& surface, float size, bool underline);
 /// the one it is drawn on; they may be the same. A coordinate of -1 is taken from the pen: an "H" to the
 /// right, half an "H" down, and handed back.
 void DrawLed(ChartSurface& label, ChartSurface& box, int& x, int& y, bool on);
+
+/// A trace's title: of a path on drive C what stands behind its last backslash, anything else whole.
+std::string TitleOfPath(std::string_view traceName);
 
 /// The nearest whole user unit, halves to even, as positions of texts are kept.
 int WholeUnits(double value);

@@ -191,17 +191,7 @@ void AppendNumberText(std::string& text, float value)
 
 std::string SignedNumberText(std::int32_t value)
 {
-    std::string text;
-    AppendSignedNumberText(text, value);
-    return text;
-}
-
-void AppendSignedNumberText(std::string& text, std::int32_t value)
-{
-    std::array<char, 12> digits{' '};
-    char* const begin = value < 0 ? digits.data() : digits.data() + 1;
-    const auto end = std::to_chars(begin, digits.data() + digits.size(), value).ptr;
-    text.append(digits.data(), end);
+    return (value < 0 ? "" : " ") + std::to_string(value);
 }
 
 } // namespace Traces

@@ -28,12 +28,9 @@ std::string NumberText(double value);
 /// Appends NumberText(value) to text without making a string of its own.
 void AppendNumberText(std::string& text, float value);
 
-/// Decimal digits with one blank in front of a value that isn't negative: " 0", "-1". Makes the keys
-/// of data point lines.
+/// Decimal digits with one blank in front of a value that isn't negative: " 0", "-1". As the keys
+/// of data point lines have it.
 std::string SignedNumberText(std::int32_t value);
-
-/// Appends SignedNumberText(value) to text without making a string of its own.
-void AppendSignedNumberText(std::string& text, std::int32_t value);
 
 /// The number that a text begins with, 0 when there is none; never fails. Blanks, tabs and line feeds
 /// between characters are skipped; reading stops at the first other character. An exponent counts when

@@ -43,12 +43,15 @@ void TraceText::PlaceIndex::Build(std::string_view whole, std::vector<std::size_
 }
 
 template <class Test>
-std::size_t TraceText::PlaceIndex::Find(std::string_view characters, Test test) const
+std::size_t TraceText::PlaceIndex::Find(std::string_view characters, Test test, std::size_t patience) const
 {
     const std::uint32_t chain = HashOf(characters.data()) & static_cast<std::uint32_t>(first.size() - 1);
-    for (std::uint32_t i = first[chain]; i != None; i = next[i])
+    for (std::uint32_t i = first[chain]; i != None; i = next[i]) {
+        if (patience-- == 0)
+            return Undecided;
         if (test(places[i]))
             return places[i];
+    }
     return std::string_view::npos;
 }
 
@@ -64,6 +67,8 @@ std::size_t TraceText::NextCharacter::From(std::string_view whole, std::size_t p
 
 TraceText::TraceText(std::string_view whole) : text(whole)
 {
+    constexpr std::size_t shortLine = 12;
+    lineStarts.reserve(text.size() / shortLine);
     for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1))
         lineStarts.push_back(at + 1);
     std::vector<std::size_t> hashed = lineStarts;
@@ -87,8 +92,12 @@ const TraceText::PlaceIndex& TraceText::Colons() const
 std::size_t TraceText::FindLine(std::string_view key) const
 {
     const auto begins = [&](std::size_t start) { return StandsAt(text, start, key); };
-    // A key that ends in a colon is found through it: the many keys of data points differ only there.
+    // A key that many lines begin like is found through its colon: the keys of data points differ only there.
     if (key.size() > HashLength && key.back() == ':') {
+        constexpr std::size_t patience = 8;
+        const std::size_t line = lines.Find(key, begins, patience);
+        if (line != PlaceIndex::Undecided)
+            return line;
         const std::size_t before = key.size() - 1;
         const std::size_t colon = Colons().Find(key.substr(before - HashLength), [&](std::size_t at) {
             return at > before && text[at - before - 1] == '\n' && begins(at - before);

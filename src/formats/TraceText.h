@@ -48,7 +48,10 @@ private:
 
         /// The first place with these characters that the test accepts; npos when none.
         template <class Test>
-        std::size_t Find(std::string_view characters, Test test) const;
+        std::size_t Find(std::string_view characters, Test test, std::size_t patience = Undecided) const;
+
+        /// What Find returns when it has tried as many places as its patience allows.
+        static constexpr std::size_t Undecided = std::string_view::npos - 1;
 
         bool IsBuilt() const { return !first.empty(); }
 

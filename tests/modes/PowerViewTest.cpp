@@ -1,10 +1,10 @@
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
 #include "control/Input.h"
 #include "control/Plot.h"
 #include "formats/Numbers.h"
 #include "modes/power/PowerLadder.h"
-#include "modes/power/PowerPanel.h"
 #include "output/Describe.h"
 #include "support/RawPower.h"
 

@@ -82,8 +82,11 @@ constexpr ExportRow Rows[] = {
     {TraceMode::Spectrum,           "Frequency (MHz)", "Level (dBm)",      {},            FrequencyOf,     nullptr,      Reflection::None},
     {TraceMode::ChannelScanner,     "Frequency (MHz)", "Level (dBm)",      "Channel",     ChannelFrequencyOf, ChannelNumberOf, Reflection::None},
     {TraceMode::Spectrogram,        "Frequency (MHz)", "Level (dBm)",      {},            FrequencyOf,     nullptr,      Reflection::None},
+    {TraceMode::T1,                 "Slice",           "Bit errors",       {},            PlaceOf,         nullptr,      Reflection::None},
+    {TraceMode::E1,                 "Slice",           "Bit errors",       {},            PlaceOf,         nullptr,      Reflection::None},
     {TraceMode::CDMA,               "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None, ShowsCDMASpectrum},
     {TraceMode::CDMA,               "Walsh code",      "Power (dB)",       {},            WalshCodeOf,     nullptr,      Reflection::None},
+    {TraceMode::GSM,                "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None},
     {TraceMode::VNAUnnamed,         "Frequency (MHz)", "Magnitude (dB)",   "Phase (deg)", FrequencyOf,     SweepPhaseOf, Reflection::None},
 };
 // clang-format on

@@ -189,6 +189,7 @@ constexpr ScriptMember Members[] = {
     {"loadTextFile",    "name",      [](Script& s, Values v) { s.Plot().loadTextFile(v.Text(0)); return NoResult(); }},
     {"LoadVNAText",     "file",      LoadText<&Plot::LoadVNAText>},
     {"LoadSPAText",     "file",      LoadText<&Plot::LoadSPAText>},
+    {"LoadE1T1Text",    "file",      LoadText<&Plot::LoadE1T1Text>},
     {"LoadCDMAText",    "file",      LoadText<&Plot::LoadCDMAText>},
     {"LoadCDMAText_v320_above", "file", LoadText<&Plot::LoadCDMAText_v320_above>},
     {"LoadEvDOText",    "file",      LoadText<&Plot::LoadEvDOText>},

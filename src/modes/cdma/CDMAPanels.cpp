@@ -1,5 +1,6 @@
 #include "modes/cdma/CDMAPanels.h"
 
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/FormatValue.h"

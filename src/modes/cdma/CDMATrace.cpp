@@ -4,6 +4,7 @@
 #include "control/TextLoader.h"
 #include "formats/LibraryValues.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "modes/cdma/CDMAChart.h"
 #include "modes/cdma/CDMAFields.h"
 #include "modes/cdma/CodeRoutes.h"
@@ -70,14 +71,16 @@ void AddRows(const CDMARecord& record, ParameterList& lines)
 {
     for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
         std::string& line = lines.BeginLine();
-        line += CodeRowKey("CDP Data ", i) + '\t';
+        line += RowKey("CDP Data ", i + 1, 3);
+        line += '\t';
         AppendNumberText(line, record.CDPPower[i]);
         line += '\t' + NumberText(record.CDPLink[i]) + '\t' + CDMAChannelType.Text(record.CDPChannelType[i]);
         lines.EndLine();
     }
     for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i) {
         std::string& line = lines.BeginLine();
-        line += CodeRowKey("RF Spectrum Data ", i) + '\t';
+        line += RowKey("RF Spectrum Data ", i + 1, 3);
+        line += '\t';
         AppendNumberText(line, record.RFSpectrum[i]);
         lines.EndLine();
     }
@@ -104,7 +107,7 @@ void LoadRows(const TraceText& text, CDMARecord& record)
     // A missing row takes the fields of the row before it: they stay in `fields`.
     LineFields fields;
     for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
-        text.ParamFields(CodeRowKey("CDP Data ", i), fields);
+        text.ParamFields(RowKey("CDP Data ", i + 1, 3), fields);
         if (fields.UpperIndex != 2)
             continue;
         LoadField(fields.Parts[0], &record.CDPPower[i], Through::FieldType);
@@ -112,7 +115,7 @@ void LoadRows(const TraceText& text, CDMARecord& record)
         record.CDPChannelType[i] = static_cast<std::uint8_t>(CDMAChannelType.Code(fields.Parts[2]));
     }
     for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i)
-        LoadField(text.ParamValue(CodeRowKey("RF Spectrum Data ", i)), &record.RFSpectrum[i],
+        LoadField(text.ParamValue(RowKey("RF Spectrum Data ", i + 1, 3)), &record.RFSpectrum[i],
                   Through::FieldType);
 }
 

@@ -3,6 +3,7 @@
 #include "control/Control.h"
 #include "formats/LibraryValues.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "formats/UploadFrame.h"
@@ -112,11 +113,11 @@ std::string EncodeCDMAText(std::string_view file)
         PutTextFields(frame, text, CDMAScanFields(version));
     for (std::size_t i = 0; i < CDMARecord::Codes; ++i) {
         LineFields fields;
-        if (text.ParamFields(CodeRowKey("CDP Data ", i), fields) && fields.UpperIndex == 2)
+        if (text.ParamFields(RowKey("CDP Data ", i + 1, 3), fields) && fields.UpperIndex == 2)
             PutCode(frame, i, ValueOf(fields.Parts[0]), ValueOf(fields.Parts[1]), fields.Parts[2]);
     }
     for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i)
-        PutSpectrumPoint(frame, i, ValueOf(text.ParamValue(CodeRowKey("RF Spectrum Data ", i))), version);
+        PutSpectrumPoint(frame, i, ValueOf(text.ParamValue(RowKey("RF Spectrum Data ", i + 1, 3))), version);
     return frame.Bytes();
 }
 

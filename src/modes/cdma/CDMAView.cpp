@@ -84,7 +84,7 @@ bool DrawChartBox(Control& control)
     if (!ScaleCodeChart(control, box, window))
         return false;
     if (control.CDMAViewMode == SpectrumView)
-        DrawSpectrumLines(control, box);
+        DrawYellowCurves(control, box);
     else
         DrawCodes(control, window);
     DrawLevelLines(control, box, window);

@@ -1,36 +1,22 @@
 #include "modes/cdma/CodeChart.h"
 
+#include "chart/ChartView.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/CodeTable.h"
-#include "formats/HostFault.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace Traces {
 
 namespace {
 
-constexpr Colour Red = RGB(255, 0, 0), Yellow = RGB(255, 255, 0), Blue = RGB(0, 0, 255);
+constexpr Colour Red = RGB(255, 0, 0);
 constexpr Colour ResultGround = RGB(255, 255, 200);
 constexpr float PanelTop = 360, PanelMiddle = 420, PanelBottom = 480;
 constexpr float CellEdge1 = 183, CellEdge2 = 366, PageWidth = 600;
 
 } // namespace
-
-void CheckCurvePoint(const TraceSlot& slot, std::size_t point)
-{
-    if (!std::isfinite(slot.X[point]) || !std::isfinite(slot.Y[point]))
-        throw HostFault(FaultKind::Overflow, "the curve has a point that is no number");
-}
-
-std::string TitleOfPath(std::string_view traceName)
-{
-    if (traceName.starts_with("C:\\"))
-        traceName.remove_prefix(traceName.rfind('\\') + 1);
-    return std::string(traceName);
-}
 
 bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window)
 {
@@ -58,19 +44,6 @@ void DrawCodeBar(ChartSurface& box, Point top, float half, const ChartWindow& wi
 {
     box.FillBox(top.X - half, window.Ymin, top.X + half, top.Y, static_cast<Colour>(ChannelTypeColor(type)));
     box.FillBox(top.X - half, top.Y, top.X + half, window.Ymax, Black);
-}
-
-void DrawSpectrumLines(const Control& control, ChartSurface& box)
-{
-    box.DrawStyle = LineStyle::Solid;
-    for (std::size_t t = 0; t < LiveSlots; ++t) {
-        const TraceSlot& slot = control.TraceSlots[t];
-        for (std::size_t i = 1; static_cast<int>(i) < slot.Length; ++i) {
-            CheckCurvePoint(slot, i - 1);
-            CheckCurvePoint(slot, i);
-            box.Line(slot.X[i - 1], slot.Y[i - 1], slot.X[i], slot.Y[i], Yellow);
-        }
-    }
 }
 
 void DrawLevelLines(const Control& control, ChartSurface& box, const ChartWindow& window)
@@ -110,14 +83,6 @@ void DrawResultCells(ChartSurface& holder)
     holder.Line(0, PanelMiddle, PageWidth, PanelMiddle, Black);
     holder.Line(CellEdge1, PanelTop, CellEdge1, PanelBottom, Black);
     holder.Line(CellEdge2, PanelTop, CellEdge2, PanelBottom, Black);
-}
-
-void DrawResult(ChartSurface& holder, const Result& result)
-{
-    constexpr int labelSize = 10;
-    constexpr int valueBelow = 16;
-    DrawTextAt(holder, result.Label, result.X, result.Y, labelSize, false, Black);
-    DrawTextAt(holder, result.Value, result.X, result.Y + valueBelow, result.Size, false, Blue);
 }
 
 } // namespace Traces

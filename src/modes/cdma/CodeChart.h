@@ -7,31 +7,20 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace Traces {
 
 struct Control;
-struct TraceSlot;
-
-/// A trace's title: of a path on drive C what stands behind its last backslash, anything else whole.
-std::string TitleOfPath(std::string_view traceName);
 
 /// Scales a chart to a window, a hundredth wider at both sides, and stores the window as the zoom's. False,
 /// with nothing changed, for one without a span.
 bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window);
-
-/// @throws HostFault Overflow for a point that isn't finite.
-void CheckCurvePoint(const TraceSlot& slot, std::size_t point);
 
 /// Half of what each point of slot 0 has of the chart's width.
 float HalfBarWidth(const Control& control, const ChartSurface& box);
 
 /// A bar from the window's foot to the point, in the colour of a channel's type, and black above it.
 void DrawCodeBar(ChartSurface& box, Point top, float half, const ChartWindow& window, std::uint8_t type);
-
-/// The points of every slot that has more than one, joined in yellow.
-void DrawSpectrumLines(const Control& control, ChartSurface& box);
 
 /// Ten dotted divisions of the levels.
 void DrawLevelLines(const Control& control, ChartSurface& box, const ChartWindow& window);
@@ -44,13 +33,5 @@ void DrawCentredInChart(ChartSurface& box, const std::string& text, int y, int s
 
 /// The ground of the results below a chart: two rows of three cells.
 void DrawResultCells(ChartSurface& holder);
-
-/// A result: its label in black and its value in blue below it.
-struct Result {
-    int X, Y;
-    std::string Label, Value;
-    int Size;
-};
-void DrawResult(ChartSurface& holder, const Result& result);
 
 } // namespace Traces

@@ -1,14 +1,8 @@
 #include "modes/cdma/CodeRoutes.h"
 
-#include "formats/FormatValue.h"
 #include "formats/Text.h"
 
 namespace Traces {
-
-std::string CodeRowKey(std::string_view stem, std::size_t row, std::string_view mask)
-{
-    return std::string(stem) + FormatValue(static_cast<std::int32_t>(row + 1), mask);
-}
 
 std::string_view CodeLookupKey(std::string_view key)
 {

@@ -1,17 +1,12 @@
-// What the routes of CDMA and EV-DO traces have in common: their rows' keys, and how a text file's lines are
-// looked up.
+// What the routes of CDMA and EV-DO traces have in common: how a text file's lines are looked up.
 #pragma once
 
 #include "formats/FieldTable.h"
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace Traces {
-
-/// A row's key, counted from 0: CodeRowKey("CDP Data ", 0) is "CDP Data 001:".
-std::string CodeRowKey(std::string_view stem, std::size_t row, std::string_view mask = "000:");
 
 /// What a key is looked up by: without its colon, but for keys that are the beginning of others.
 std::string_view CodeLookupKey(std::string_view key);

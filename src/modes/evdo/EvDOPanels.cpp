@@ -1,5 +1,6 @@
 #include "modes/evdo/EvDOPanels.h"
 
+#include "chart/Panel.h"
 #include "chart/SummaryPane.h"
 #include "control/Control.h"
 #include "control/ViewText.h"

@@ -4,6 +4,7 @@
 #include "control/TextLoader.h"
 #include "formats/LibraryValues.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "modes/cdma/CodeRoutes.h"
 #include "modes/evdo/EvDOChart.h"
@@ -67,26 +68,26 @@ double BeginDecode(Control& control, const RawBuffer& buffer)
 
 void AddRows(const EvDORecord& record, std::size_t macCodes, ParameterList& lines)
 {
-    const auto add = [&](std::string_view stem, std::size_t row, std::string_view mask, float value,
+    const auto add = [&](std::string_view stem, std::size_t row, std::size_t digits, float value,
                          const std::string& type) {
         std::string& line = lines.BeginLine();
-        line += CodeRowKey(stem, row, mask) + '\t';
+        line += RowKey(stem, row + 1, digits);
+        line += '\t';
         AppendNumberText(line, value);
         line += type;
         lines.EndLine();
     };
     for (std::size_t i = 0; i < macCodes; ++i)
-        add("CDP MAC Data ", i, "00:", record.CDPMACPower[i],
-            '\t' + CDMAChannelType.Text(record.CDPMACType[i]));
+        add("CDP MAC Data ", i, 2, record.CDPMACPower[i], '\t' + CDMAChannelType.Text(record.CDPMACType[i]));
     for (std::size_t i = 0; i < EvDORecord::DataCodes; ++i) {
-        add("CDP Data I", i, "00:", record.CDPDataI[i], {});
-        add("CDP Data Q", i, "00:", record.CDPDataQ[i], {});
+        add("CDP Data I", i, 2, record.CDPDataI[i], {});
+        add("CDP Data Q", i, 2, record.CDPDataQ[i], {});
     }
     for (const auto& [stem, curve] : {std::pair{"RF Spectrum Data ", &record.RFSpectrum},
                                       {"Idle Power/Time ", &record.IdlePowerTime},
                                       {"Active Power/Time ", &record.ActivePowerTime}})
         for (std::size_t i = 0; i < curve->size(); ++i)
-            add(stem, i, "000:", (*curve)[i], {});
+            add(stem, i, 3, (*curve)[i], {});
 }
 
 /// Lines of a table; a code goes through the table of its key.
@@ -155,23 +156,23 @@ void LoadRows(const TraceText& text, EvDORecord& record, std::size_t macCodes)
     // A missing row takes the fields of the row before it: they stay in `fields`.
     LineFields fields;
     for (std::size_t i = 0; i < macCodes; ++i) {
-        text.ParamFields(CodeRowKey("CDP MAC Data ", i, "00:"), fields);
+        text.ParamFields(RowKey("CDP MAC Data ", i + 1, 2), fields);
         if (fields.UpperIndex != 1)
             continue;
         LoadField(fields.Parts[0], &record.CDPMACPower[i], Through::FieldType);
         record.CDPMACType[i] = static_cast<std::uint8_t>(CDMAChannelType.Code(fields.Parts[1]));
     }
-    const auto load = [&](std::string_view stem, std::size_t row, std::string_view mask, float& field) {
-        LoadField(text.ParamValue(CodeRowKey(stem, row, mask)), &field, Through::FieldType);
+    const auto load = [&](std::string_view stem, std::size_t row, std::size_t digits, float& field) {
+        LoadField(text.ParamValue(RowKey(stem, row + 1, digits)), &field, Through::FieldType);
     };
     for (std::size_t i = 0; i < EvDORecord::DataCodes; ++i) {
-        load("CDP Data I", i, "00:", record.CDPDataI[i]);
-        load("CDP Data Q", i, "00:", record.CDPDataQ[i]);
+        load("CDP Data I", i, 2, record.CDPDataI[i]);
+        load("CDP Data Q", i, 2, record.CDPDataQ[i]);
     }
     for (std::size_t i = 0; i < EvDORecord::CurvePoints; ++i) {
-        load("RF Spectrum Data ", i, "000:", record.RFSpectrum[i]);
-        load("Idle Power/Time ", i, "000:", record.IdlePowerTime[i]);
-        load("Active Power/Time ", i, "000:", record.ActivePowerTime[i]);
+        load("RF Spectrum Data ", i, 3, record.RFSpectrum[i]);
+        load("Idle Power/Time ", i, 3, record.IdlePowerTime[i]);
+        load("Active Power/Time ", i, 3, record.ActivePowerTime[i]);
     }
 }
 
@@ -267,7 +268,7 @@ void EvDOParams_v320_above(const Control& control, ParameterList& lines)
     AddLines(record, EvDOHeadFields(LayoutVersion), lines);
     AddLines(record, EvDOScanFields_v320_above(LayoutVersion), lines);
     for (std::size_t k = 0; k < EvDORecord::Paths; ++k)
-        lines.AddLine(CodeRowKey("Tau ", k, "0:"), NumberText(record.PilotTau[k]));
+        lines.AddLine(RowKey("Tau ", k + 1), NumberText(record.PilotTau[k]));
     lines.AddLine("UTC Time:", record.UTCTime);
     lines.AddLine("No Valid PilotScan:", NumberText(record.NoValidPilotScan));
     AddLines(record, EvDOTailFields_v320_above(LayoutVersion), lines);
@@ -310,7 +311,7 @@ void LoadEvDOText_v320_above(Control& control, std::string_view text, const std:
     LoadKeys(*traceText, record, EvDOHeadFields(LayoutVersion));
     LoadKeys(*traceText, record, EvDOScanFields_v320_above(LayoutVersion));
     for (std::size_t k = 0; k < EvDORecord::Paths; ++k)
-        LoadCodeField(traceText->ParamValue(CodeRowKey("Tau ", k, "0:")), &record.PilotTau[k]);
+        LoadCodeField(traceText->ParamValue(RowKey("Tau ", k + 1)), &record.PilotTau[k]);
     LoadCodeField(traceText->ParamValue("UTC Time:"), &record.UTCTime);
     LoadField(traceText->ParamValue("No Valid PilotScan:"), &record.NoValidPilotScan, Through::Float);
     LoadKeys(*traceText, record, EvDOTailFields_v320_above(LayoutVersion));

@@ -3,6 +3,7 @@
 #include "control/Control.h"
 #include "formats/LibraryValues.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "formats/UploadFrame.h"
@@ -103,7 +104,7 @@ void PutPilotNumbers(UploadFrame& frame, const TraceText& text)
     // What the table has put at the places of the record route.
     frame.Put(201, std::string(14, ' '));
     for (std::size_t k = 0; k < std::size(positions); ++k)
-        frame.Put(positions[k], PutI16(ValueOf(text.ParamValue(CodeRowKey("Pilot Scan PN ", k, "0:")))));
+        frame.Put(positions[k], PutI16(ValueOf(text.ParamValue(RowKey("Pilot Scan PN ", k + 1)))));
 }
 
 } // namespace
@@ -149,20 +150,20 @@ std::string EncodeEvDOText(std::string_view file)
     PutTextFields(frame, text, EvDOTailFields(version));
     for (std::size_t i = 0; i < Blocks.MACCodes; ++i) {
         LineFields fields;
-        if (text.ParamFields(CodeRowKey("CDP MAC Data ", i, "00:"), fields) && fields.UpperIndex == 1)
+        if (text.ParamFields(RowKey("CDP MAC Data ", i + 1, 2), fields) && fields.UpperIndex == 1)
             PutMACCode(frame, i, CDMAChannelType.Code(fields.Parts[1]), ValueOf(fields.Parts[0]));
     }
-    const auto valueOf = [&](std::string_view stem, std::size_t row, std::string_view mask) {
-        return ValueOf(text.ParamValue(CodeRowKey(stem, row, mask)));
+    const auto valueOf = [&](std::string_view stem, std::size_t row, std::size_t digits) {
+        return ValueOf(text.ParamValue(RowKey(stem, row + 1, digits)));
     };
     for (std::size_t i = 0; i < EvDORecord::DataCodes; ++i) {
-        PutDataCode(frame, Blocks.DataI - FrameShift, i, valueOf("CDP Data I", i, "00:"));
-        PutDataCode(frame, DataQPosition, i, valueOf("CDP Data Q", i, "00:"));
+        PutDataCode(frame, Blocks.DataI - FrameShift, i, valueOf("CDP Data I", i, 2));
+        PutDataCode(frame, DataQPosition, i, valueOf("CDP Data Q", i, 2));
     }
     for (std::size_t i = 0; i < EvDORecord::CurvePoints; ++i) {
-        PutCurvePoint(frame, Blocks.Spectrum, i, valueOf("RF Spectrum Data ", i, "000:"));
-        PutCurvePoint(frame, Blocks.IdleTime, i, valueOf("Idle Power/Time ", i, "000:"));
-        PutCurvePoint(frame, Blocks.ActiveTime, i, valueOf("Active Power/Time ", i, "000:"));
+        PutCurvePoint(frame, Blocks.Spectrum, i, valueOf("RF Spectrum Data ", i, 3));
+        PutCurvePoint(frame, Blocks.IdleTime, i, valueOf("Idle Power/Time ", i, 3));
+        PutCurvePoint(frame, Blocks.ActiveTime, i, valueOf("Active Power/Time ", i, 3));
     }
     return frame.Bytes();
 }

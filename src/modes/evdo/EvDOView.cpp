@@ -203,7 +203,7 @@ void DrawSpectrum(Control& control)
     const ChartWindow window = ChooseWindow(control);
     if (!ScaleCodeChart(control, box, window))
         return;
-    DrawSpectrumLines(control, box);
+    DrawYellowCurves(control, box);
     DrawLevelLines(control, box, window);
 }
 

@@ -22,11 +22,11 @@ struct GSMRecord {
     std::int16_t Channel = 0;      ///< negative is none
     std::int32_t GpsLatitude = 0, GpsLongitude = 0;
     std::int16_t GpsAltitude = 0;
-    std::string RefLevelCalStatus;           ///< "1" while a cable's offset is in force
-    float ChannelPower = 0, BurstPower = 0;  ///< dBm
-    float FreqError = 0;                     ///< Hz
-    float OccupiedBandwidth = 0;             ///< kHz, 0 when it wasn't measured
-    std::int16_t MeasuredTSC = 0;            ///< training sequence code, NoTSC when it wasn't measured
+    std::string RefLevelCalStatus;          ///< "1" while a cable's offset is in force
+    float ChannelPower = 0, BurstPower = 0; ///< dBm
+    float FreqError = 0;                    ///< Hz
+    float OccupiedBandwidth = 0;            ///< kHz, 0 when it wasn't measured
+    std::int16_t MeasuredTSC = 0;           ///< training sequence code, NoTSC when it wasn't measured
     Curve SpectrumCurve{}, FrameCurve{}, SlotCurve{}; ///< dB
 
     static constexpr std::int16_t NoTSC = -1;

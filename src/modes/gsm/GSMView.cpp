@@ -1,12 +1,12 @@
 #include "modes/gsm/GSMView.h"
 
 #include "chart/ChartView.h"
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/CodeTable.h"
 #include "formats/FormatValue.h"
 #include "formats/Numbers.h"
-#include "modes/cdma/CodeChart.h"
 #include "modes/gsm/GSMChart.h"
 
 namespace Traces {
@@ -59,8 +59,7 @@ void DrawBand(ChartSurface& holder, const GSMRecord& record)
         {372, 364, "Meas Occ BW (kHz)",
          known(record.OccupiedBandwidth != 0, FormatValue(record.OccupiedBandwidth, "#0.0")), size},
         {372, 424, "TSC",
-         known(record.MeasuredTSC != GSMRecord::NoTSC,
-               FormatValue(std::int32_t{record.MeasuredTSC}, "#0")),
+         known(record.MeasuredTSC != GSMRecord::NoTSC, FormatValue(std::int32_t{record.MeasuredTSC}, "#0")),
          size},
     };
     for (const Result& result : results)
@@ -74,11 +73,11 @@ void DrawGSMSlotMask(ChartSurface& box)
     constexpr struct {
         float X1, Y1, X2, Y2;
     } lines[] = {
-        {30, -90, 30, -2},    {370, -90, 370, -2},  {30, -2, 370, -2},    {0, -72, 10, -72},
-        {10, -72, 10, -32},   {10, -32, 16, -32},   {16, -32, 16, -8},    {16, -8, 24, -8},
-        {24, -8, 24, 5},      {24, 5, 30, 5},       {30, 5, 30, 2},       {30, 2, 370, 2},
-        {370, 5, 370, 2},     {370, 5, 376, 5},     {376, -8, 376, 5},    {376, -8, 384, -8},
-        {384, -32, 384, -8},  {384, -32, 390, -32}, {390, -72, 390, -32}, {390, -72, 400, -72},
+        {30, -90, 30, -2},   {370, -90, 370, -2},  {30, -2, 370, -2},    {0, -72, 10, -72},
+        {10, -72, 10, -32},  {10, -32, 16, -32},   {16, -32, 16, -8},    {16, -8, 24, -8},
+        {24, -8, 24, 5},     {24, 5, 30, 5},       {30, 5, 30, 2},       {30, 2, 370, 2},
+        {370, 5, 370, 2},    {370, 5, 376, 5},     {376, -8, 376, 5},    {376, -8, 384, -8},
+        {384, -32, 384, -8}, {384, -32, 390, -32}, {390, -72, 390, -32}, {390, -72, 400, -72},
     };
     for (const auto& line : lines)
         box.Line(line.X1, line.Y1, line.X2, line.Y2, maskColour);
@@ -91,7 +90,7 @@ bool DrawBurst(Control& control, ChartSurface& box)
     if (window.Xmin == window.Xmax || window.Ymin == window.Ymax)
         return false;
     ScaleBox(box, window);
-    DrawSpectrumLines(control, box);
+    DrawYellowCurves(control, box);
     box.DrawStyle = LineStyle::Dotted;
     if (control.GSMViewMode == GSMView::Slot)
         DrawGSMSlotMask(box);

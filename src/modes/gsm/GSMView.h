@@ -1,5 +1,5 @@
-// The picture of a GSM trace: the curve of the sub view, in the slot view within the burst's mask, over a band
-// of results.
+// The picture of a GSM trace: the curve of the sub view, in the slot view within the burst's mask, over a
+// band of results.
 #pragma once
 
 namespace Traces {

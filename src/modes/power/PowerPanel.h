@@ -1,5 +1,4 @@
-// What the pictures of the power modes have in common: the raised panel with its title band, and the texts
-// placed on it.
+// What the pictures of the power modes have in common: the raised panel with its title band.
 #pragma once
 
 #include "control/ChartSurface.h"
@@ -9,9 +8,6 @@
 namespace Traces {
 
 struct Control;
-
-inline constexpr Colour BarGreen = RGB(105, 245, 105);
-inline constexpr Colour PanelGrey = RGB(170, 170, 170);
 
 /// How the panels of the modes differ.
 struct PowerPanel {
@@ -26,8 +22,5 @@ void BeginPanel(const Control& control, ChartSurface& holder, const PowerPanel& 
 
 /// Ends the picture: the summary pane shows when the host asked for it, written by the mode's own writer.
 void EndPanel(Control& control, ChartSurface& holder, void (*summary)(Control& control));
-
-/// A text in size 10 and the current colour, centred on x.
-void DrawCentred(ChartSurface& holder, std::string_view text, int x, int y);
 
 } // namespace Traces

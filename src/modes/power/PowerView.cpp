@@ -2,6 +2,7 @@
 // lines. ZephraView.cpp has the high accuracy meter.
 #include "modes/power/PowerView.h"
 
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/CodeTable.h"
@@ -85,9 +86,9 @@ void DrawWattsScale(Control& control)
     for (int i = 0; i < ticks; ++i)
         DrawTick(holder, i, i % LongTickEvery == 0);
     const ScientificParts parts = ScientificPartsOf(watts);
-    DrawCentred(holder, zeroed ? "0" : "1", FirstTick, ScaleTextTop);
-    DrawCentred(holder, "5", FirstTick + 5 * TickStep, ScaleTextTop);
-    DrawCentred(holder, "10E" + parts.Exponent, FirstTick + 10 * TickStep, ScaleTextTop);
+    DrawCentred(holder, zeroed ? "0" : "1", FirstTick, ScaleTextTop, SmallText);
+    DrawCentred(holder, "5", FirstTick + 5 * TickStep, ScaleTextTop, SmallText);
+    DrawCentred(holder, "10E" + parts.Exponent, FirstTick + 10 * TickStep, ScaleTextTop, SmallText);
     DrawBar(control.PowerBar, 0, ticks, static_cast<float>(parts.Mantissa));
 }
 
@@ -105,7 +106,8 @@ void DrawDecibelScale(Control& control)
         const bool isLong = decibels % LongTickEvery == 0;
         DrawTick(holder, place, isLong);
         if (isLong)
-            DrawCentred(holder, FormatValue(decibels, "##0"), FirstTick + TickStep * place, ScaleTextTop);
+            DrawCentred(holder, FormatValue(decibels, "##0"), FirstTick + TickStep * place, ScaleTextTop,
+                        SmallText);
     }
     DrawBar(control.PowerBar, static_cast<float>(*first), ticks, reading);
 }

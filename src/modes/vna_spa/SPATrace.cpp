@@ -3,8 +3,8 @@
 #include "chart/SweepCurve.h"
 #include "control/Control.h"
 #include "control/TextLoader.h"
-#include "formats/FormatValue.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "modes/vna_spa/SPAFields.h"
 #include "modes/vna_spa/SavedNumbers.h"
@@ -23,9 +23,9 @@ std::size_t PointsInRecord(const Control& control)
 }
 
 /// "1:", the key of the first point's line.
-std::string PointKey(std::size_t point)
+RowKey PointKey(std::size_t point)
 {
-    return FormatValue(static_cast<std::int32_t>(point + 1), "#0:");
+    return {{}, point + 1};
 }
 
 /// Points that the record has no room for are left out.
@@ -42,15 +42,13 @@ void DecodeSPAPoints(Control& control, const RawBuffer& buffer)
 /// lines that follow are those that lookups would find. Empty otherwise.
 std::string_view SavedPoints(const TraceText& text)
 {
-    constexpr std::string_view firstKey = "\n1:\t";
-    const std::string_view whole = text.Whole();
-    const std::size_t start = whole.find(firstKey);
-    if (start == std::string_view::npos)
-        return {};
-    for (std::size_t at = whole.find('\n'); at < start; at = whole.find('\n', at + 1))
-        if (whole[at + 1] >= '0' && whole[at + 1] <= '9')
-            return {};
-    return whole.substr(start + 1);
+    std::string_view rest = text.Whole();
+    for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
+        rest.remove_prefix(end + 1);
+        if (!rest.empty() && rest[0] >= '0' && rest[0] <= '9')
+            return rest.starts_with("1:\t") ? rest : std::string_view();
+    }
+    return {};
 }
 
 /// Reads lines as a save writes them, and returns how many.

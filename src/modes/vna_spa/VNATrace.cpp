@@ -5,6 +5,7 @@
 #include "control/TextLoader.h"
 #include "formats/Numbers.h"
 #include "formats/PowerUnits.h"
+#include "formats/RowKey.h"
 #include "formats/TraceMode.h"
 #include "modes/vna_spa/SavedNumbers.h"
 #include "modes/vna_spa/VNAFields.h"
@@ -68,14 +69,12 @@ void DecodeVNAPoints(Control& control, const RawBuffer& buffer)
     }
 }
 
-constexpr std::string_view PointKeyStem = "Data point";
+constexpr std::string_view PointKeyStem = "Data point ";
 
 /// "Data point 0:", the key of a point's line.
-void AppendPointKey(std::string& text, std::size_t point)
+RowKey PointKey(std::size_t point)
 {
-    text += PointKeyStem;
-    AppendSignedNumberText(text, static_cast<std::int32_t>(point));
-    text += ':';
+    return {PointKeyStem, point};
 }
 
 /// Reads the points' lines as a save writes them: one behind the other, with two plain numbers each. Stops
@@ -84,14 +83,12 @@ void AppendPointKey(std::string& text, std::size_t point)
 std::size_t LoadSavedPoints(VNARecord& record, std::size_t points, std::string_view text)
 {
     std::string_view rest = text.substr(std::min(text.find(PointKeyStem), text.size()));
-    std::string key;
     for (std::size_t i = 0; i < points; ++i) {
-        key.clear();
-        AppendPointKey(key, i);
-        key += '\t';
-        if (!rest.starts_with(key))
+        const RowKey row = PointKey(i);
+        const std::string_view key = row;
+        if (!rest.starts_with(key) || !rest.substr(key.size()).starts_with('\t'))
             return i;
-        rest.remove_prefix(key.size());
+        rest.remove_prefix(key.size() + 1);
         float value = 0;
         float phase = 0;
         if (!TakeNumber(rest, value, '\t') || !TakeNumber(rest, phase, '\r'))
@@ -110,12 +107,9 @@ void LoadVNAPoints(Control& control, const TraceText& text)
     // A point without a line takes the fields of the point before it: they stay in `fields`, and so the
     // last point that was read is looked up once more.
     LineFields fields;
-    std::string key;
     for (std::size_t i = saved == points ? points : saved - std::min<std::size_t>(saved, 1); i < points;
          ++i) {
-        key.clear();
-        AppendPointKey(key, i);
-        text.ParamFields(key, fields);
+        text.ParamFields(PointKey(i), fields);
         if (fields.UpperIndex != 1)
             continue;
         LoadField(fields.Parts[0], &control.VNA.PointValue[i], Through::Float);
@@ -161,7 +155,7 @@ void VNAParams(const Control& control, ParameterList& lines)
 
     for (std::size_t i = 0; i < PointsInRecord(control); ++i) {
         std::string& line = lines.BeginLine();
-        AppendPointKey(line, i);
+        line += PointKey(i);
         line += '\t';
         AppendNumberText(line, record.PointValue[i]);
         line += '\t';
