@@ -36,6 +36,7 @@ inline constexpr FamilySample FamilySamples[] = {
     {"T1 histogram", "t1_bursts_100slices.raw"},   {"E1 level", "e1_vpp_dbdsx.raw"},
     {"CDMA codes", "cdma_cell_128codes_v320.raw"}, {"CDMA spectrum", "cdma_spectrum_v320.raw"},
     {"GSM spectrum", "gsm_spectrum_v320.raw"},     {"GSM slot", "gsm_slot_bad_v320.raw"},
+    {"iDEN spectrum", "iden_spectrum.raw"},        {"GPS check", "gpst_lost_fixes.raw"},
     {"EV-DO codes", "evdo_mac_128codes_v320.raw"}, {"EV-DO slot", "evdo_active_slot_v314.raw"},
 };
 

@@ -10,6 +10,7 @@
 #include "control/Upload.h"
 #include "formats/HostFault.h"
 #include "formats/TraceMode.h"
+#include "modes/iden/IDENChart.h"
 #include "output/Svg.h"
 
 #include <algorithm>
@@ -111,12 +112,14 @@ void SetByHost(Plot& plot, std::uint8_t choice, std::span<const std::uint8_t, 4>
 }
 
 /// How many points a shown trace has: some records hold a fixed number, whatever their head tells.
-int PointsOf(const TraceHeader& header)
+int PointsOf(const Control& state)
 {
+    const TraceHeader& header = state.Header;
     switch (header.Mode) {
     case TraceMode::T1:
     case TraceMode::E1: return 100;
     case TraceMode::GSM: return 401;
+    case TraceMode::IDEN: return state.IDENViewMode == IDENView::Demod ? 240 : 401;
     default: return header.DataPoints;
     }
 }
@@ -129,7 +132,7 @@ void CheckShown(Plot& plot)
     Check(!plot.AutoScaleY(), "a new trace has its own limits");
     // A code measurement's curve is that of the chart it shows.
     const bool codes = row->Mode == TraceMode::CDMA || row->Mode == TraceMode::EvDO;
-    Check(row->FillCurve == nullptr || codes || plot.count() == PointsOf(state.Header),
+    Check(row->FillCurve == nullptr || codes || plot.count() == PointsOf(state),
           "the curve has all points");
     const auto lines = plot.Parameters();
     plot.TraceInfo();

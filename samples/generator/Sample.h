@@ -38,6 +38,12 @@ std::vector<Sample> GsmSamples();
 /// MAC and data codes of EV-DO sectors.
 std::vector<Sample> EvdoSamples();
 
+/// iDEN base radios.
+std::vector<Sample> IdenSamples();
+
+/// Checks of GPS receivers.
+std::vector<Sample> GpsSamples();
+
 /// value with a fixed number of decimals, whatever the locale.
 std::string Fixed(double value, int decimals);
 /// value with at most four decimals and no trailing zeros.

@@ -22,8 +22,9 @@ constexpr double SafeTie = 1e-6;
 std::vector<Sample> AllSamples()
 {
     std::vector<Sample> samples;
-    for (const auto family : {VnaFrequencySamples, VnaDistanceSamples, SpectrumSamples, PowerSamples,
-                              LineTestSamples, CdmaSamples, EvdoSamples, GsmSamples}) {
+    for (const auto family :
+         {VnaFrequencySamples, VnaDistanceSamples, SpectrumSamples, PowerSamples, LineTestSamples,
+          CdmaSamples, EvdoSamples, GsmSamples, IdenSamples, GpsSamples}) {
         std::vector<Sample> made = family();
         samples.insert(samples.end(), std::make_move_iterator(made.begin()),
                        std::make_move_iterator(made.end()));

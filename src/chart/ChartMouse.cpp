@@ -29,6 +29,7 @@ constexpr auto ChartBoxes = std::to_array<ChartBox>({
      true},
     {&ChildControls::EvDOSubBox, &Control::EvDOMarkers, &ChildControls::EvDOSubCoords, "#0.000", "#0", false,
      true},
+    {&ChildControls::idenbox, nullptr, &ChildControls::iDenCoords, "#0.0", "#0.0", false},
 });
 
 MarkerSet* MarkersOf(Control& control, const ChartBox& chart)

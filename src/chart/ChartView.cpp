@@ -80,11 +80,16 @@ void DrawCurves(const Control& control, ChartSurface& box, std::size_t first)
         DrawCurve(control.TraceSlots[t], box, control.TraceColors[t]);
 }
 
-void DrawYellowCurves(const Control& control, ChartSurface& box)
+void DrawYellowCurve(const TraceSlot& curve, ChartSurface& box)
 {
     box.DrawStyle = LineStyle::Solid;
+    DrawCurve(curve, box, RGB(255, 255, 0));
+}
+
+void DrawYellowCurves(const Control& control, ChartSurface& box)
+{
     for (std::size_t t = 0; t < LiveSlots; ++t)
-        DrawCurve(control.TraceSlots[t], box, RGB(255, 255, 0));
+        DrawYellowCurve(control.TraceSlots[t], box);
 }
 
 void DrawGraticule(const Control& control, ChartSurface& box, const ChartWindow& window)

@@ -27,8 +27,9 @@ void CheckCurvePoint(const TraceSlot& slot, std::size_t point);
 /// @throws HostFault Overflow at a point that isn't finite.
 void DrawCurves(const Control& control, ChartSurface& box, std::size_t first = 0);
 
-/// The points of every slot that has more than one, joined in yellow.
+/// The points of a curve, or of every slot that has more than one, joined in yellow.
 /// @throws HostFault Overflow at a point that isn't finite.
+void DrawYellowCurve(const TraceSlot& curve, ChartSurface& box);
 void DrawYellowCurves(const Control& control, ChartSurface& box);
 
 /// Ten dotted divisions each way, whatever the range.

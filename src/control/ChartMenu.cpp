@@ -141,6 +141,7 @@ Menu ChartMenu(const Control& control, const MarkerSet* markers)
     const bool gsm = mode == TraceMode::GSM;
     const bool cdma = mode == TraceMode::CDMA;
     const bool evdo = mode == TraceMode::EvDO;
+    const bool iden = mode == TraceMode::IDEN;
     MenuItem markerHead = MarkersMenu(control, markers);
     const bool hasMarkers = markerHead.Visible;
     return {"menuPopUpHeader",
@@ -163,6 +164,12 @@ Menu ChartMenu(const Control& control, const MarkerSet* markers)
                 FamilyItem(control, "menuEvDOOTA", "Over the Air", evdo),
                 FamilyItem(control, "menuEvDORFSpecIdle", "RF Spectrum - Idle", evdo),
                 FamilyItem(control, "menuEvDORFSpecActive", "RF Spectrum - Active", evdo),
+                {"menuIDENSepbar", "-", iden},
+                FamilyItem(control, "menuIDENSpec", "Spectrum", iden),
+                FamilyItem(control, "menuIDENACPR", "ACPR", iden),
+                FamilyItem(control, "menuIDENPower", "Power vs Time", iden),
+                FamilyItem(control, "menuIDENDemod", "Demod", iden),
+                FamilyItem(control, "menuIDENAll", "All Views", iden),
                 {"menuSubTitleSepbar", "-"},
                 {"menuSubTitle", "Plot Subtitle"},
                 {"menuTraceInfoSepbar", "-", onChart},

@@ -12,7 +12,9 @@
 #include "modes/cdma/CDMARecord.h"
 #include "modes/channel_scanner/CSRecord.h"
 #include "modes/evdo/EvDORecord.h"
+#include "modes/gps_tester/GPSTesterRecord.h"
 #include "modes/gsm/GSMRecord.h"
+#include "modes/iden/IDENRecord.h"
 #include "modes/power/PowerRecord.h"
 #include "modes/power/ZephraRecord.h"
 #include "modes/spectrogram/SpectroRecord.h"
@@ -76,6 +78,10 @@ struct Control : private Screen, public ChildControls {
     E1T1Record E1T1;
     CDMARecord CDMA;
     GSMRecord GSM;
+    IDENRecord IDEN;
+    std::int16_t IDENViewMode = 0; ///< the view on show; the record's tells what the instrument showed
+    GPSTesterRecord GPSTester;
+    std::vector<GPSEvent> GPSEvents;
     bool CDMAIs128 = false;      ///< the codes stand in bit-reversed order
     bool ChartHasMarkers = true; ///< of the CDMA chart: its spectrum has none
     EvDORecord EvDO;

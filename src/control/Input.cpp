@@ -9,24 +9,9 @@ namespace Traces {
 
 namespace {
 
-struct Place {
-    double Left, Top;
-};
-
-/// Where a surface stands on the device.
-Place PlaceOf(const ChartSurface& surface)
-{
-    if (surface.Parent == nullptr)
-        return {0, 0};
-    const ChartSurface& parent = *surface.Parent;
-    const Place place = PlaceOf(parent);
-    return {place.Left + static_cast<double>(surface.Left - parent.ScaleLeft) * parent.PixelsPerUnitX(),
-            place.Top + static_cast<double>(surface.Top - parent.ScaleTop) * parent.PixelsPerUnitY()};
-}
-
 bool Contains(const ChartSurface& surface, double x, double y)
 {
-    const Place place = PlaceOf(surface);
+    const DevicePlace place = DevicePlaceOf(surface);
     return x >= place.Left && x < place.Left + surface.DeviceWidth() && y >= place.Top &&
            y < place.Top + surface.DeviceHeight();
 }
@@ -87,6 +72,16 @@ ChartSurface& KeySurface(Control& control)
 }
 
 } // namespace
+
+DevicePlace DevicePlaceOf(const ChartSurface& surface)
+{
+    if (surface.Parent == nullptr)
+        return {0, 0};
+    const ChartSurface& parent = *surface.Parent;
+    const DevicePlace place = DevicePlaceOf(parent);
+    return {place.Left + static_cast<double>(surface.Left - parent.ScaleLeft) * parent.PixelsPerUnitX(),
+            place.Top + static_cast<double>(surface.Top - parent.ScaleTop) * parent.PixelsPerUnitY()};
+}
 
 void MouseDown(Control& control, ChartSurface& surface, int button, int shift, float x, float y)
 {
@@ -234,7 +229,7 @@ ChartSurface& SurfaceAt(Control& control, double x, double y)
 
 Point UserPoint(const ChartSurface& surface, double x, double y)
 {
-    const Place place = PlaceOf(surface);
+    const DevicePlace place = DevicePlaceOf(surface);
     return {static_cast<float>(static_cast<double>(surface.ScaleLeft) +
                                (x - place.Left) / surface.PixelsPerUnitX()),
             static_cast<float>(static_cast<double>(surface.ScaleTop) +

@@ -37,6 +37,12 @@ void DeviceMenuKey(Control& control);
 /// The topmost shown surface under a device point; the control's own when there is no other.
 ChartSurface& SurfaceAt(Control& control, double x, double y);
 
+/// Where a surface's top left corner stands on the device, in pixels.
+struct DevicePlace {
+    double Left, Top;
+};
+DevicePlace DevicePlaceOf(const ChartSurface& surface);
+
 /// A device point in a surface's user coordinates.
 Point UserPoint(const ChartSurface& surface, double x, double y);
 

@@ -98,6 +98,9 @@ struct FileKind {
 
     /// Upload frame of a file's text; null when such files aren't uploaded.
     std::string (*EncodeText)(std::string_view text);
+
+    /// Whether loading by name knows the extension. A file of another is loaded by what stands in it.
+    bool LoadsByName = true;
 };
 
 /// All modes and file kinds that a control knows.

@@ -10,9 +10,14 @@
 #include "modes/evdo/EvDOChart.h"
 #include "modes/evdo/EvDOTrace.h"
 #include "modes/evdo/EvDOView.h"
+#include "modes/gps_tester/GPSTesterTrace.h"
+#include "modes/gps_tester/GPSTesterView.h"
 #include "modes/gsm/GSMChart.h"
 #include "modes/gsm/GSMTrace.h"
 #include "modes/gsm/GSMView.h"
+#include "modes/iden/IDENChart.h"
+#include "modes/iden/IDENTrace.h"
+#include "modes/iden/IDENView.h"
 #include "modes/power/PowerMeterTrace.h"
 #include "modes/power/PowerMonitorTrace.h"
 #include "modes/power/PowerView.h"
@@ -239,6 +244,31 @@ constexpr ModeRow DataOptimized = {
     .TextFile = &EvDOFile,
 };
 
+// iDEN, and the check of a GPS receiver. Neither goes back to the instrument.
+
+constexpr FileKind IDENFile = {"IDEN", LoadiDen_Tester_Text, nullptr, false};
+constexpr FileKind GPSTFile = {"GPST", LoadiDen_GPS_Tester_Text, nullptr};
+
+constexpr ModeRow EnhancedNetwork = {
+    .Mode = TraceMode::IDEN,
+    .Holder = &ChildControls::idenHolder,
+    .MenuItems = IDENMenuItems,
+    .Decode = DecodeIDEN,
+    .FillCurve = FillIDENCurve,
+    .Params = IDENParams,
+    .View = DrawIDENTrace,
+    .TextFile = &IDENFile,
+};
+
+constexpr ModeRow GPSCheck = {
+    .Mode = TraceMode::GPSTester,
+    .Holder = &ChildControls::GPSiDENHolder,
+    .Decode = DecodeGPSTester,
+    .Params = GPSTesterParams,
+    .View = DrawGPSTesterTrace,
+    .TextFile = &GPSTFile,
+};
+
 constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLFrequency),
     Sweep(TraceMode::SWRFrequency),
@@ -258,12 +288,14 @@ constexpr ModeRow Modes[] = {
     CodeDomain,
     Burst,
     DataOptimized,
+    EnhancedNetwork,
+    GPSCheck,
 };
 
-/// By the extensions that loading by name knows.
+/// By their extensions.
 constexpr FileKind Files[] = {
-    VNAFile,  SPAFile,  CSFile,   SpectroFile, PMETFile, PMFile,
-    PMONFile, HIPMFile, E1T1File, CDMAFile,    GSMFile,  EvDOFile,
+    VNAFile,  SPAFile,  CSFile,   SpectroFile, PMETFile, PMFile,   PMONFile,
+    HIPMFile, E1T1File, CDMAFile, GSMFile,     EvDOFile, IDENFile, GPSTFile,
 };
 
 } // namespace

@@ -17,7 +17,9 @@
 #include "modes/power/PowerMeterTrace.h"
 #include "modes/power/PowerMonitorTrace.h"
 #include "modes/power/ZephraTrace.h"
+#include "modes/gps_tester/GPSTesterTrace.h"
 #include "modes/gsm/GSMTrace.h"
+#include "modes/iden/IDENTrace.h"
 #include "modes/spectrogram/SpectroTrace.h"
 #include "modes/t1e1/E1T1Trace.h"
 #include "modes/vna_spa/SPATrace.h"
@@ -132,6 +134,16 @@ void Plot::LoadEvDOText_v320_above(std::string_view TraceString, const std::stri
 void Plot::LoadCSText(std::string_view TraceString, const std::string& path)
 {
     Traces::LoadCSText(*control, TraceString, path);
+}
+
+void Plot::LoadiDen_GPS_Tester_Text(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadiDen_GPS_Tester_Text(*control, TraceString, path);
+}
+
+void Plot::LoadiDen_Tester_Text(std::string_view TraceString, const std::string& path)
+{
+    Traces::LoadiDen_Tester_Text(*control, TraceString, path);
 }
 
 void Plot::LoadGSMText(std::string_view TraceString, const std::string& path)

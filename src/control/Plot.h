@@ -68,6 +68,8 @@ public:
     void LoadEvDOText(std::string_view TraceString, const std::string& path);
     void LoadEvDOText_v320_above(std::string_view TraceString, const std::string& path);
     void LoadCSText(std::string_view TraceString, const std::string& path);
+    void LoadiDen_GPS_Tester_Text(std::string_view TraceString, const std::string& path);
+    void LoadiDen_Tester_Text(std::string_view TraceString, const std::string& path);
     void LoadGSMText(std::string_view TraceString, const std::string& path);
     void LoadSpectroText(std::string_view TraceString, const std::string& path);
     void LoadPowerMeterText(std::string_view TraceString, const std::string& path);

@@ -120,7 +120,8 @@ void LoadTextFile(Control& control, const std::string& path)
         LoadRawTrace(control, path);
     } else {
         const std::string text = ReadWholeFileOrFault(path);
-        if (const FileKind* kind = control.Families.FindFileKind(extension))
+        const FileKind* kind = control.Families.FindFileKind(extension);
+        if (kind != nullptr && kind->LoadsByName)
             kind->Load(control, text, {});
     }
     control.TraceSaved = false;

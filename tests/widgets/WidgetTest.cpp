@@ -3,6 +3,7 @@
 #include "output/Capture.h"
 #include "widgets/ShownPlot.h"
 
+#include <QListWidget>
 #include <QMenu>
 #include <QSignalSpy>
 
@@ -58,6 +59,23 @@ TEST_F(Widgets, MarkerDragRepaintsTheOverlayAlone)
     EXPECT_NEAR(State().VNAMarkers.MarkerIndex[1], 140, 1);
     Painted();
     EXPECT_GT(widget.PaintedPictures(), painted);
+}
+
+TEST_F(Widgets, EventsOfAGpsCheckScrollInAList)
+{
+    ShowSample("gpst_lost_fixes.raw");
+    auto* list = widget.findChild<QListWidget*>("Events");
+    ASSERT_TRUE(list != nullptr && list->isVisible());
+    EXPECT_EQ(list->count(), 49) << "without the lost fixes";
+    EXPECT_EQ(list->pos(), PixelOf(State().GPSiDENBox, 0, 0));
+    EXPECT_FALSE(list->rect().contains(list->visualItemRect(list->item(48))));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, {20, 5});
+    QTest::keyClick(list, Qt::Key_End);
+    EXPECT_TRUE(list->rect().contains(list->visualItemRect(list->item(48))));
+    ShowSample("gpst_clear_sky.raw");
+    EXPECT_EQ(list->count(), 12);
+    ShowSample("rl_gsm900_antenna_201pts.raw");
+    EXPECT_FALSE(list->isVisible());
 }
 
 TEST_F(Widgets, ZoomGoesByDoubleClickDragAndMenu)

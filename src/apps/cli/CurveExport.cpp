@@ -7,6 +7,7 @@
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "modes/cdma/CDMAChart.h"
+#include "modes/iden/IDENChart.h"
 
 #include <algorithm>
 
@@ -59,6 +60,11 @@ bool ShowsCDMASpectrum(const Control& control)
     return !control.ChartHasMarkers;
 }
 
+bool ShowsConstellation(const Control& control)
+{
+    return control.IDENViewMode == IDENView::Demod;
+}
+
 /// What a curve's value says of the reflection.
 enum class Reflection { None, Decibels, Swr };
 
@@ -87,6 +93,8 @@ constexpr ExportRow Rows[] = {
     {TraceMode::CDMA,               "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None, ShowsCDMASpectrum},
     {TraceMode::CDMA,               "Walsh code",      "Power (dB)",       {},            WalshCodeOf,     nullptr,      Reflection::None},
     {TraceMode::GSM,                "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None},
+    {TraceMode::IDEN,               "I",               "Q",                {},            PlaceOf,         nullptr,      Reflection::None, ShowsConstellation},
+    {TraceMode::IDEN,               "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None},
     {TraceMode::VNAUnnamed,         "Frequency (MHz)", "Magnitude (dB)",   "Phase (deg)", FrequencyOf,     SweepPhaseOf, Reflection::None},
 };
 // clang-format on

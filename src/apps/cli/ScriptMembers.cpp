@@ -195,6 +195,8 @@ constexpr ScriptMember Members[] = {
     {"LoadEvDOText",    "file",      LoadText<&Plot::LoadEvDOText>},
     {"LoadEvDOText_v320_above", "file", LoadText<&Plot::LoadEvDOText_v320_above>},
     {"LoadCSText",      "file",      LoadText<&Plot::LoadCSText>},
+    {"LoadiDen_GPS_Tester_Text", "file", LoadText<&Plot::LoadiDen_GPS_Tester_Text>},
+    {"LoadiDen_Tester_Text", "file", LoadText<&Plot::LoadiDen_Tester_Text>},
     {"LoadGSMText",     "file",      LoadText<&Plot::LoadGSMText>},
     {"LoadSpectroText", "file",      LoadText<&Plot::LoadSpectroText>},
     {"LoadPowerMeterText", "file",   LoadText<&Plot::LoadPowerMeterText>},

@@ -72,6 +72,7 @@ constexpr StateField Fields[] = {
     {"YScaleBottom",        Of<&Control::YScaleBottom>},
     {"SpectroSweep",        Of<&Control::SpectroSweep>},
     {"GSMViewMode",         Of<&Control::GSMViewMode>},
+    {"IDENViewMode",        Of<&Control::IDENViewMode>},
     {"CDMAViewMode",        Of<&Control::CDMAViewMode>},
     {"CDMAIs128",           Of<&Control::CDMAIs128>},
     {"ChartHasMarkers",     Of<&Control::ChartHasMarkers>},

@@ -6,6 +6,7 @@
 #include "control/Input.h"
 #include "formats/HostFault.h"
 #include "formats/Text.h"
+#include "modes/gps_tester/GPSTesterView.h"
 #include "output/Capture.h"
 #include "output/Describe.h"
 #include "qt/widgets/KeepingCanvas.h"
@@ -14,6 +15,7 @@
 #include "qt/widgets/QtPlatform.h"
 
 #include <QContextMenuEvent>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -21,6 +23,10 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QTimer>
+
+#include <algorithm>
+#include <string>
+#include <vector>
 
 namespace Traces {
 
@@ -74,13 +80,17 @@ private:
 /// What the widget keeps between paint events.
 struct PlotWidget::Kept {
     KeptPictures Pictures;
-    QTimer Description; ///< screen readers needn't hear each step of a drag
+    QTimer Description;            ///< screen readers needn't hear each step of a drag
+    QListWidget* Events = nullptr; ///< the widget's own child, over the box of a GPS check
+    std::vector<std::string> EventLines;
 };
 
 PlotWidget::PlotWidget(QWidget* parent)
     : QWidget(parent), platform(std::make_unique<QtPlatform>(*this)), events(std::make_unique<Events>(*this)),
-      kept(std::make_unique<Kept>()), plot(std::make_unique<Traces::Plot>(*platform))
+      kept(std::make_unique<Kept>())
 {
+    // The control repaints while it is made: until it is there, the pointer says so.
+    plot = std::make_unique<Traces::Plot>(*platform);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAccessibleName(tr("Measurement chart"));
@@ -318,8 +328,44 @@ void PlotWidget::TellPropertyChanged(std::string_view name)
 void PlotWidget::PictureChanged()
 {
     update();
+    if (plot != nullptr)
+        ShowEventList();
     if (kept != nullptr && plot != nullptr && !kept->Description.isActive())
         kept->Description.start();
+}
+
+/// A list that scrolls, in the place of the lines that the control has drawn into its box.
+void PlotWidget::ShowEventList()
+{
+    const Control& control = plot->Instance();
+    const ChartSurface& box = control.GPSiDENBox;
+    if (!box.IsShown()) {
+        if (kept->Events != nullptr)
+            kept->Events->hide();
+        return;
+    }
+    if (kept->Events == nullptr) {
+        kept->Events = new QListWidget(this);
+        kept->Events->setObjectName("Events");
+        kept->Events->setAccessibleName(tr("Events"));
+        kept->Events->setFrameShape(QFrame::NoFrame);
+    }
+    QListWidget& list = *kept->Events;
+    const DevicePlace place = DevicePlaceOf(box);
+    list.setGeometry(qRound(place.Left), qRound(place.Top), qRound(box.DeviceWidth()),
+                     qRound(box.DeviceHeight()));
+    QFont font = list.font();
+    constexpr double textSize = 10;
+    font.setPointSizeF(std::max(1.0, textSize * static_cast<double>(box.Screen().FontScaleFactor)));
+    list.setFont(font);
+    if (std::vector<std::string> lines = ShownGPSEvents(control);
+        list.count() == 0 || lines != kept->EventLines) {
+        kept->EventLines = std::move(lines);
+        list.clear();
+        for (const std::string& line : kept->EventLines)
+            list.addItem(QString::fromStdString(Utf8FromAnsi(line)));
+    }
+    list.show();
 }
 
 void PlotWidget::ShowPointer(QPointF place)

@@ -130,6 +130,7 @@ private:
     void PictureChanged();
     void ShowPointer(QPointF place);
     void DescribeTrace();
+    void ShowEventList();
 
     /// Runs what a device event does to the control. This may be gone afterwards.
     template <class Action>
