@@ -223,6 +223,22 @@ void UndoZoom(Control& control)
     RedrawTrace(control);
 }
 
+void ZoomAboutMiddle(Control& control, float factor)
+{
+    const ChartBox* chart = ShownChartBox(control);
+    if (chart == nullptr || !chart->Zooms)
+        return;
+    const ChartSurface& box = control.*chart->Box;
+    const float width = box.ScaleWidth, height = std::abs(box.ScaleHeight);
+    const float middleX = box.ScaleLeft + width / 2, middleY = box.ScaleTop + box.ScaleHeight / 2;
+    control.ZoomX1 = middleX - width * factor / 2;
+    control.ZoomX2 = middleX + width * factor / 2;
+    control.ZoomY1 = middleY - height * factor / 2;
+    control.ZoomY2 = middleY + height * factor / 2;
+    control.ZoomActive = true;
+    RedrawTrace(control);
+}
+
 void ToggleAutoScale(Control& control)
 {
     control.AutoScaleY = !control.AutoScaleY;

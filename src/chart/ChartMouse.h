@@ -43,6 +43,10 @@ void ChartMouseUp(Control& control, const ChartBox& chart, int button, float x, 
 /// The full view again; the rectangle stays stored.
 void UndoZoom(Control& control);
 
+/// Zooms about the middle of the chart on show, to `factor` times what it shows. Nothing where there is no
+/// zoom.
+void ZoomAboutMiddle(Control& control, float factor);
+
 void ToggleAutoScale(Control& control);
 
 } // namespace Traces

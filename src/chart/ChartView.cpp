@@ -48,6 +48,7 @@ void BeginView(ChartSurface& holder, ChartSurface& box)
 {
     holder.AutoRedraw = true;
     box.AutoRedraw = true;
+    box.DrawStyle = LineStyle::Solid; // a drag leaves it dashed
     box.Cls();
     holder.Cls();
     box.Refresh();

@@ -88,10 +88,8 @@ void MarkerAtX(Control& control, MarkerSet& markers, std::size_t marker)
 
 void StepMarker(Control& control, MarkerSet& markers, int keyCode)
 {
-    constexpr int left = 37;
-    constexpr int right = 39;
     const std::int16_t selected = markers.SelectedMarker;
-    if ((keyCode != left && keyCode != right) || selected < 0 ||
+    if ((keyCode != KeyCodes::Left && keyCode != KeyCodes::Right) || selected < 0 ||
         selected >= static_cast<std::int16_t>(MarkerCount))
         return;
     const auto marker = static_cast<std::size_t>(selected);
@@ -99,7 +97,7 @@ void StepMarker(Control& control, MarkerSet& markers, int keyCode)
         return;
     // A step past the curve's ends is taken back by the redraw, which clamps every marker.
     std::int16_t& index = markers.MarkerIndex[marker];
-    index = static_cast<std::int16_t>(index + (keyCode == left ? -1 : 1));
+    index = static_cast<std::int16_t>(index + (keyCode == KeyCodes::Left ? -1 : 1));
     markers.MarkerText[marker] = TextOfMarker(control, markers, marker);
     RedrawTrace(control);
 }

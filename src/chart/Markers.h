@@ -30,6 +30,11 @@ bool MarkerState(const Control& control, std::int16_t index);
 /// the last point it keeps both.
 void MarkerAtX(Control& control, MarkerSet& markers, std::size_t marker);
 
+/// Keys that move a marker.
+namespace KeyCodes {
+inline constexpr int Left = 37, Right = 39;
+} // namespace KeyCodes
+
 /// Moves the selected marker, if it is on, a point down for an arrow key to the left, one up for one to the
 /// right, and redraws. Other keys do nothing.
 void StepMarker(Control& control, MarkerSet& markers, int keyCode);

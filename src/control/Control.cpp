@@ -31,8 +31,8 @@ void SetColours(Control& control)
     control.idenHolder.BackColor = Grey;
     for (ChartSurface* box : control.ChartBoxes())
         box->BackColor = Black;
-    for (ChartSurface* box :
-         {&control.PowerBar, &control.ErrorsBox, &control.idenbox1, &control.idenbox2, &control.idenbox3})
+    for (ChartSurface* box : {&control.PowerBar, &control.VppBar, &control.ErrorsBox, &control.idenbox1,
+                              &control.idenbox2, &control.idenbox3})
         box->BackColor = Black;
 }
 

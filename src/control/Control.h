@@ -131,6 +131,12 @@ void RedrawTrace(Control& control);
 /// as it got.
 bool TryRedrawTrace(Control& control);
 
+/// Makes a mode the one that a redraw shows. The wide layout ends with the iDEN trace that it is for.
+void SetCurrentMode(Control& control, std::int16_t mode);
+
+/// Whether the last layout has made room for the four iDEN views side by side.
+bool IsLaidOutWide(const Control& control);
+
 /// Size logic for a size in device pixels, 1 at least: user system, font scale, layout of all child
 /// controls, redraw.
 void Resize(Control& control, int width, int height);

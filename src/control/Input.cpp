@@ -40,22 +40,43 @@ bool OpensPowerMenu(const Control& control, const ChartSurface& surface)
            &surface == &control.ZephraHolder;
 }
 
-/// The menu of a surface, for a right click. True when it had one.
-bool OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* chart)
+/// The set behind the chart menu of a surface that isn't a chart; null with none.
+MarkerSet* MarkersBeside(Control& control, const ChartSurface& surface)
 {
-    if (!control.AllowPopupMenu)
-        return false;
-    if (chart != nullptr)
-        ShowChartMenu(control, chart->Markers != nullptr ? &(control.*chart->Markers) : nullptr);
-    else if (&surface == &control.CDMAHolder)
-        ShowChartMenu(control, &control.CDMAMarkers);
-    else if (&surface == &control.ParamBox)
-        ShowChartMenu(control, nullptr);
-    else if (OpensPowerMenu(control, surface))
+    if (&surface == &control.CDMAHolder)
+        return &control.CDMAMarkers;
+    return &surface == &control.EvDOHolder ? &control.EvDOMarkers : nullptr; // over the air it has no chart
+}
+
+/// Pages and parts of pages without a chart box of their own.
+bool OpensChartMenu(const Control& control, const ChartSurface& surface)
+{
+    for (const ChartSurface* each :
+         {&control.ParamBox, &control.CDMAHolder, &control.EvDOHolder, &control.E1T1Holder, &control.VppBar,
+          &control.GPSiDENHolder, &control.GPSiDENBox, &control.idenHolder, &control.idenbox1,
+          &control.idenbox2, &control.idenbox3})
+        if (each == &surface)
+            return true;
+    return false;
+}
+
+/// Whether a right click on a surface opens a menu.
+bool HasMenu(const Control& control, const ChartSurface& surface, const ChartBox* chart)
+{
+    return control.AllowPopupMenu &&
+           (chart != nullptr || OpensChartMenu(control, surface) || OpensPowerMenu(control, surface));
+}
+
+void OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* chart)
+{
+    if (!HasMenu(control, surface, chart))
+        return;
+    if (OpensPowerMenu(control, surface))
         ShowPowerMenu(control);
+    else if (chart != nullptr)
+        ShowChartMenu(control, chart->Markers != nullptr ? &(control.*chart->Markers) : nullptr);
     else
-        return false;
-    return true;
+        ShowChartMenu(control, MarkersBeside(control, surface));
 }
 
 void Capture(Control& control, ChartSurface& surface, int button)
@@ -65,11 +86,48 @@ void Capture(Control& control, ChartSurface& surface, int button)
     control.ButtonsDown |= button;
 }
 
-/// Keys go where the mouse was last pressed, as long as it is shown.
+/// Keys go where the mouse was last pressed, as long as it is shown; at first to a chart whose markers they
+/// move.
 ChartSurface& KeySurface(Control& control)
 {
-    return control.Focused != nullptr && control.Focused->IsShown() ? *control.Focused : control.Surface;
+    if (control.Focused != nullptr && control.Focused->IsShown())
+        return *control.Focused;
+    const ChartBox* chart = ShownChartBox(control);
+    return chart != nullptr && chart->StepsMarkers ? control.*chart->Box : control.Surface;
 }
+
+/// What a press leaves, whatever a handler of the host did to it.
+class PressEnd {
+public:
+    PressEnd(Control& pressed, const ChartBox* on, Point at)
+        : control(pressed), life(pressed), chart(on), place(at)
+    {
+    }
+    PressEnd(const PressEnd&) = delete;
+    PressEnd& operator=(const PressEnd&) = delete;
+    ~PressEnd()
+    {
+        if (life.Gone())
+            return;
+        if (MenuTookMouse) { // and the release with it
+            control.Captured = nullptr;
+            control.ButtonsDown = 0;
+        }
+        // A zoom rectangle begins at the last press, of whichever button.
+        if (chart != nullptr) {
+            control.ZoomX1 = place.X;
+            control.ZoomY1 = place.Y;
+        }
+    }
+
+    bool MenuTookMouse = false;
+
+private:
+    Control& control;
+    LifeWatch life;
+    const ChartBox* chart;
+    Point place;
+};
 
 } // namespace
 
@@ -87,20 +145,15 @@ void MouseDown(Control& control, ChartSurface& surface, int button, int shift, f
 {
     const ChartBox* chart = FindChartBox(control, surface);
     const LifeWatch life(control);
-    const bool opened = button == MouseButton::Right && OpenMenu(control, surface, chart);
+    PressEnd end(control, chart, {x, y});
+    end.MenuTookMouse = button == MouseButton::Right && HasMenu(control, surface, chart);
+    if (end.MenuTookMouse)
+        OpenMenu(control, surface, chart);
     if (life.Gone())
         return;
-    if (opened) {
-        // The menu has taken the mouse, and the release with it.
-        control.Captured = nullptr;
-        control.ButtonsDown = 0;
-    }
     if (chart != nullptr) {
-        if (!opened)
+        if (!end.MenuTookMouse)
             ChartMouseDown(control, *chart, x, y);
-        // A zoom rectangle begins at the last press, of whichever button.
-        control.ZoomX1 = x;
-        control.ZoomY1 = y;
     } else if (&surface == &control.Surface && control.Events != nullptr) {
         control.Events->MouseDown(button, shift, x, y);
         if (life.Gone())

@@ -1,6 +1,7 @@
 // Size logic and layout routine: where every child control stands, in the units of its parent.
 #include "control/Control.h"
 #include "control/Properties.h"
+#include "formats/TraceMode.h"
 
 #include <algorithm>
 #include <array>
@@ -14,6 +15,8 @@ constexpr float HolderHeight = 480;
 constexpr float SpectroHolderHeight = 580;
 constexpr float PaneLeft = 560;
 constexpr float PaneWidth = 350;
+
+constexpr float WideWidth = 1500;
 
 struct Rectangle {
     float Left, Top, Width, Height;
@@ -79,7 +82,7 @@ Rectangle UserSize(const Control& control)
     if (control.ShowParams)
         return {0, 0, 911 + frame, 480 + frame};
     if (control.IDENWideLayout)
-        return {0, 0, 1500 + frame, 820 + frame};
+        return {0, 0, WideWidth + frame, 820 + frame};
     return {0, 0, HolderWidth + frame, HolderHeight + frame};
 }
 
@@ -101,18 +104,38 @@ void LayOut(Control& control)
     control.ParamBox.Scale(0, 0, PaneWidth, HolderHeight);
 }
 
-} // namespace
-
-void Resize(Control& control, int width, int height)
+/// All that a size decides but the picture.
+void Arrange(Control& control)
 {
-    control.Surface.Width = static_cast<float>(std::max(width, 1));
-    control.Surface.Height = static_cast<float>(std::max(height, 1));
     const Rectangle size = UserSize(control);
     control.Surface.Scale(0, 0, size.Width, size.Height);
     control.ScreenFacts().FontScaleFactor =
         std::min(control.Surface.Width / size.Width, control.Surface.Height / size.Height);
     LayOut(control);
     DrawFrame(control);
+}
+
+} // namespace
+
+bool IsLaidOutWide(const Control& control)
+{
+    return control.Surface.ScaleWidth >= WideWidth;
+}
+
+void SetCurrentMode(Control& control, std::int16_t mode)
+{
+    control.CurrentMode = mode;
+    if (!control.IDENWideLayout || mode == TraceMode::IDEN)
+        return;
+    control.IDENWideLayout = false;
+    Arrange(control);
+}
+
+void Resize(Control& control, int width, int height)
+{
+    control.Surface.Width = static_cast<float>(std::max(width, 1));
+    control.Surface.Height = static_cast<float>(std::max(height, 1));
+    Arrange(control);
     // A window system that resizes the control has no use for its trace's faults.
     TryRedrawTrace(control);
 }

@@ -64,6 +64,9 @@ struct ModeRow {
     /// Appends the record's lines to a parameter list.
     void (*Params)(const Control& control, ParameterList& lines) = nullptr;
 
+    /// The same for a report, where that differs.
+    void (*Report)(const Control& control, ParameterList& lines) = nullptr;
+
     /// Draws the holder from the decoded state.
     void (*View)(Control& control) = nullptr;
 

@@ -84,7 +84,7 @@ std::optional<TraceText> BeginTextLoad(Control& control, std::string_view text, 
 
 void EndTextLoad(Control& control)
 {
-    control.CurrentMode = control.Header.Mode;
+    SetCurrentMode(control, control.Header.Mode);
     control.TraceSaved = false;
     // A loader reports nothing but the checksum.
     TryRedrawTrace(control);

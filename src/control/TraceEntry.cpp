@@ -39,7 +39,7 @@ bool ShowTrace(Control& control, const RawBuffer& buffer)
         DecodeHeader(buffer, control.Header, control.lstParameters);
     if (!PassesLengthGate(control, buffer))
         return false;
-    control.CurrentMode = control.Header.Mode;
+    SetCurrentMode(control, control.Header.Mode);
     control.AutoScaleY = false;
     Clear(control);
     const ModeRow* row = CurrentRow(control);
@@ -70,9 +70,9 @@ std::string TraceInfo(const Control& control)
     lines.AddLine("Data points:", FormatValue(std::int32_t{header.DataPoints}, "#0"));
 
     const ModeRow* row = control.Families.FindMode(header.Mode);
-    if (row == nullptr || row->Params == nullptr)
-        return lines.Text();
-    row->Params(control, lines);
+    const auto list = row == nullptr ? nullptr : row->Report != nullptr ? row->Report : row->Params;
+    if (list != nullptr)
+        list(control, lines);
     return lines.Text();
 }
 

@@ -114,6 +114,12 @@ void LoadField(std::string_view value, FieldRef field, Through through)
     std::visit(load, field);
 }
 
+void LoadLine(const TraceText& text, std::string_view key, FieldRef field)
+{
+    if (text.HasLine(key))
+        LoadField(text.ParamValue(key), field, Through::FieldType);
+}
+
 void EncodeField(UploadFrame& frame, int position, const RawForm& form, FieldView field)
 {
     if (form.Reader == Read::Chars) {

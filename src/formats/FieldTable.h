@@ -159,6 +159,10 @@ enum class Through {
 void DecodeField(const RawBuffer& buffer, const RawForm& form, FieldRef field);
 void AddParamLine(ParameterList& lines, std::string_view key, FieldView field);
 void LoadField(std::string_view value, FieldRef field, Through through);
+
+/// LoadField from the line that begins with the key. A missing line leaves the field; one without a value
+/// empties a text and leaves a number.
+void LoadLine(const TraceText& text, std::string_view key, FieldRef field);
 /// @}
 
 /// Writes a record's field at a frame position, undoing the divisor.

@@ -26,6 +26,9 @@ public:
     /// the whole text, it is the text's first line.
     std::string_view ParamValue(std::string_view key) const;
 
+    /// Whether a line, from the second on, begins with the key.
+    bool HasLine(std::string_view key) const { return FindLine(key) != std::string_view::npos; }
+
     /// Splits the value of the first place, anywhere in the text, where the key stands. False, with the
     /// fields left as they were, when it stands nowhere.
     bool ParamFields(std::string_view key, LineFields& fields) const;

@@ -277,6 +277,26 @@ TEST_F(ScriptCalls, MeasureTextsOnEverySurfaceWithoutChangingIt)
     EXPECT_EQ(script.Instance().VNAHolder.Font.Size, Font{}.Size);
 }
 
+TEST_F(ScriptCalls, TellWhatTheLastCallAskedOfThePlatform)
+{
+    Call("ShowTrace " + Put("three.raw", ThreePointSweep()));
+    Call("MouseDown VNABox 2 0 1 1");
+    const Json menu = ResultOf("Asked")["menus"][0];
+    EXPECT_EQ(menu["name"], "menuPopUpHeader");
+    EXPECT_EQ(
+        menu["items"][0],
+        (Json{{"name", "menuAutoScale"}, {"caption", "AutoScale"}, {"enabled", true}, {"checked", false}}));
+    EXPECT_EQ(menu["items"].back()["items"].size(), 8U) << "six markers, clear, values";
+    Call("AutoScaleY true");
+    EXPECT_EQ(ResultOf("Asked")["changed"], Json({"AutoScaleY"}));
+    const Json bag = ResultOf("WriteProperties");
+    EXPECT_EQ(bag["AutoScaleY"], -1);
+    Call("AutoScaleY false");
+    Call("ReadProperties " + Json(bag.dump()).dump());
+    EXPECT_EQ(ResultOf("AutoScaleY"), -1);
+    EXPECT_EQ(ResultOf("TracePicture")["type"], "image/svg+xml");
+}
+
 TEST(ScriptCommand, AnswersEachLineOfItsInputAndStopsAtItsEnd)
 {
     const auto result = Testing::RunCli({"script"}, "SetIndex 3\r\n\nSetIndex\nBad");

@@ -259,9 +259,18 @@ TEST_F(LineTest, MarkersMoveOverTheSlicesAndAZoomKeepsBothBoxesAligned)
     EXPECT_EQ(state.E1T1Markers.MarkerIndex[1], 41);
     EXPECT_EQ(state.E1T1Markers.MarkerText[1], "41.400");
     DblClick(state, box);
-    EXPECT_TRUE(state.ZoomActive);
-    EXPECT_EQ(box.ScaleWidth, 99.5F);
-    EXPECT_EQ(state.ErrorsBox.ScaleWidth, 99.5F);
+    MouseDown(state, box, MouseButton::Left, 0, 20, 4);
+    MouseMove(state, box, MouseButton::Left, 0, 40, 1);
+    MouseUp(state, box, MouseButton::Left, 0, 40, 1);
+    EXPECT_EQ(box.ScaleTop, 4);
+    EXPECT_EQ(box.ScaleHeight, -3);
+    EXPECT_EQ(state.ErrorsBox.ScaleTop, 5) << "all rows stay";
+    for (const ChartSurface* each : {&box, &state.ErrorsBox}) {
+        EXPECT_EQ(each->ScaleLeft, 20);
+        EXPECT_EQ(each->ScaleWidth, 20);
+    }
+    EXPECT_FLOAT_EQ(Fills(box, Yellow)[0].To.X - Fills(box, Yellow)[0].From.X, 0.995F)
+        << "bars keep their slices";
 }
 
 TEST_F(LineTest, VppIsInDecibelsForAScalingOfOneAlone)

@@ -118,6 +118,9 @@ TEST_F(GSM, ALoadedFileKeepsTheBurstPowerThatWasThere)
     EXPECT_EQ(loaded.TraceSlots[0].Y[400], 60.54F);
     EXPECT_EQ(loaded.GSM.FrameCurve[7], record.FrameCurve[7]);
 
+    fresh.LoadGSMText(WithChecksum("Channel:\t4\r\nSignal Standard:\t\r\n"), {});
+    EXPECT_EQ(loaded.GSM.SignalStandard, "") << "a line without a value";
+    EXPECT_EQ(loaded.GSM.RefLevelCalStatus, "3") << "no line";
     fresh.LoadGSMText(
         WithChecksum(
             "Version:\t3.20\r\nDisplay Type:\t9\r\n000:\t1\t2\t3\r\n003:\t4\t5\r\n005:\t7\tx\t9\r\n"),
@@ -155,6 +158,8 @@ TEST_F(GSM, FramesAreTheRawTraceThirteenBytesLower)
     const std::string frame = plot.GetUpLoadTrace(folder / "a.gsm");
     EXPECT_EQ(frame.substr(143 + 14, 2), "  ") << "a point without a line stays blank";
     EXPECT_EQ(frame.substr(143 + 16, 2), raw.substr(156 + 16, 2));
+    ASSERT_TRUE(WriteWholeFile(folder / "a.gsm", "\r\nDisplay Type:\t300\r\nMeasured TSC:\t7\r\n"));
+    EXPECT_EQ(plot.GetUpLoadTrace(folder / "a.gsm").substr(55, 1), " ") << "no byte";
 }
 
 TEST_F(GSM, TheBandTellsWhatWasMeasured)

@@ -216,6 +216,12 @@ TEST_F(IDEN, TheWideLayoutShowsAllFourOverTheWholeControl)
         EXPECT_EQ(box->DeviceWidth(), 600) << box->Name;
     }
     EXPECT_TRUE(Says("iDEN-Demod") && Says("iDEN-Spectrum View"));
+    // It ends with the trace, not to be undone from another one's menu.
+    ASSERT_TRUE(plot.ShowTrace(Testing::RawHeader(750, 96, 100).Bytes()));
+    EXPECT_FALSE(state.IDENWideLayout);
+    EXPECT_EQ(state.Surface.ScaleWidth, 550);
+    plot.ShowTrace(RawAnalysis(3).Bytes());
+    RunMenuItem(state, {"menuIDENAll"}, false);
     // The pane takes the room of three of them.
     plot.ShowParams(true);
     plot.Resize(911, 480);

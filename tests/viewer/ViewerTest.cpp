@@ -100,6 +100,27 @@ TEST_F(Viewing, FileThatIsNoneLeavesTheTraceOnShowAlone)
     EXPECT_EQ(State().Header.DataPoints, 101);
 }
 
+TEST_F(Viewing, TraceWithoutACurveIsSteppedOverAndOverlaysEndWithTheirTrace)
+{
+    auto bytes = *ReadWholeFile(folder / "rl_open_101pts.raw");
+    bytes[54] = bytes[55] = 0; // no points
+    ASSERT_TRUE(WriteWholeFile(folder / "m_none.raw", bytes));
+    ASSERT_TRUE(window->OpenFile(Path("cl_shorted_feeder_201pts.raw")));
+    ASSERT_TRUE(window->OverlayFile(Path("cl_shorted_feeder_201pts.raw")));
+    EXPECT_EQ(State().TraceSlots[1].Length, 201);
+    EXPECT_NE(Refusal(Path("m_none.raw")), QString());
+    EXPECT_EQ(State().TraceSlots[0].Length, 201) << "the trace before stays";
+    EXPECT_EQ(State().TraceSlots[1].Length, 201);
+
+    auto* files = window->findChild<QListWidget*>("files");
+    QTimer::singleShot(100, window.get(), [] { QApplication::activeModalWidget()->close(); });
+    QTest::keyClick(files, Qt::Key_Down);
+    EXPECT_EQ(files->currentItem()->text(), "m_none.raw");
+    QTest::keyClick(files, Qt::Key_Down);
+    EXPECT_EQ(window->windowTitle(), "rl_gsm900_antenna_201pts.raw - Traces");
+    EXPECT_EQ(State().TraceSlots[1].Length, 0) << "what was laid over went with its trace";
+}
+
 TEST_F(Viewing, DropShowsTheFirstAndLaysTheOthersOverIt)
 {
     QMimeData files;

@@ -19,6 +19,7 @@ namespace {
 
 constexpr PictureSize DesignSize = {550, 480};
 constexpr PictureSize DesignSizeWithPane = {911, 480};
+constexpr PictureSize DesignSizeOfAllViews = {1500, 820};
 
 /// What pictures are made with: the Qt layer, or nothing but the core for SVG.
 struct Painter {
@@ -63,7 +64,8 @@ std::string ShowView(Control& control, const ModeRow* row, const std::string& vi
         if (item.View != view)
             continue;
         if (item.Enabled != nullptr && !item.Enabled(control))
-            return "can't show \"" + view + "\", for which the instrument had no option";
+            return "can't show \"" + view +
+                   "\": the instrument had no option for it, or the pane has its place";
         item.Run(control);
         return {};
     }
@@ -81,6 +83,8 @@ std::string Adjust(Control& control, const RenderOptions& options)
     if (!options.View.empty())
         if (std::string problem = ShowView(control, row, options.View); !problem.empty())
             return problem;
+    if (IsLaidOutWide(control) && !options.Size)
+        Resize(control, DesignSizeOfAllViews.Width, DesignSizeOfAllViews.Height);
     if (!options.Markers.empty()) {
         if (row == nullptr || row->Markers == nullptr)
             return "can't have markers: " + mode + " has none";

@@ -45,9 +45,11 @@ Json Script::Call(std::string_view line)
     }
     platform.Messages.clear();
     platform.SaveDialogs.clear();
-    platform.Menus.clear();
-    platform.ShownParameters.clear();
-    platform.ChangedProperties.clear();
+    if (parsed.Member != AskedMember) {
+        platform.Menus.clear();
+        platform.ShownParameters.clear();
+        platform.ChangedProperties.clear();
+    }
     events.Events.clear();
     try {
         reply.update(CallMember(*this, parsed));

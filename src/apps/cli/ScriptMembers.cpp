@@ -11,6 +11,7 @@
 #include "formats/HostFault.h"
 #include "formats/Numbers.h"
 #include "formats/Text.h"
+#include "output/Capture.h"
 
 #include <algorithm>
 #include <charconv>
@@ -134,6 +135,72 @@ Json DoubleClick(Script& script, const ScriptValues& values)
     return NoResult();
 }
 
+template <auto Event>
+Json DeviceMouse(Script& script, const ScriptValues& values)
+{
+    Event(script.Instance(), values.Long(0), values.Long(1), static_cast<double>(values.Number(2)),
+          static_cast<double>(values.Number(3)));
+    return NoResult();
+}
+
+Json PictureOf(Script& script)
+{
+    const Picture picture = TracePicture(script.Instance());
+    return {{"result", {{"type", picture.MimeType}, {"bytes", picture.Bytes.size()}}}};
+}
+
+/// What a menu showed: its visible items, separators left out, submenus in their item.
+Json ItemsJson(const std::vector<MenuItem>& items)
+{
+    Json list = Json::array();
+    for (const MenuItem& item : items) {
+        if (!item.Visible || item.Caption == "-")
+            continue;
+        Json shown = {{"name", ToJson(item.Name)},
+                      {"caption", ToJson(item.Caption)},
+                      {"enabled", item.Enabled},
+                      {"checked", item.Checked}};
+        if (!item.Items.empty())
+            shown["items"] = ItemsJson(item.Items);
+        list.push_back(std::move(shown));
+    }
+    return list;
+}
+
+/// What the call before this one made the platform do: menus, the parameters form, change notices.
+Json Asked(Script& script)
+{
+    const HeadlessPlatform& platform = script.Platform();
+    Json menus = Json::array();
+    for (const Menu& menu : platform.Menus)
+        menus.push_back({{"name", ToJson(menu.Name)}, {"items", ItemsJson(menu.Items)}});
+    return {{"result",
+             {{"menus", std::move(menus)},
+              {"shown", ToJson(platform.ShownParameters)},
+              {"changed", ToJson(platform.ChangedProperties)}}}};
+}
+
+Json StoredProperties(Script& script)
+{
+    PropertyBag bag;
+    script.Plot().WriteProperties(bag);
+    return {{"result", bag}};
+}
+
+/// From a JSON object of the stored values.
+Json RestoreProperties(Script& script, const ScriptValues& values)
+{
+    const Json stored = Json::parse(values.Text(0), nullptr, false);
+    if (!stored.is_object())
+        return Error("ReadProperties takes a JSON object");
+    PropertyBag bag;
+    for (const auto& [key, value] : stored.items())
+        if (value.is_number_integer())
+            bag[key] = value.get<std::int32_t>();
+    script.Plot().ReadProperties(bag);
+    return NoResult();
+}
+
 Json PressKey(Script& script, const ScriptValues& values)
 {
     ChartSurface* surface = FindSurface(script.Instance(), values.Text(0));
@@ -231,11 +298,19 @@ constexpr ScriptMember Members[] = {
     {"MouseUp",         "name long long number number", Mouse<MouseUp>},
     {"DblClick",        "name",      DoubleClick},
     {"KeyDown",         "name long [long]", PressKey},
+    {"KeyPress",        "name long", [](Script& s, Values v) { ChartSurface* surface = FindSurface(s.Instance(), v.Text(0)); if (surface != nullptr) KeyPress(s.Instance(), *surface, v.Long(1)); return NoResult(); }},
+    {"KeyUp",           "name long [long]", [](Script& s, Values v) { ChartSurface* surface = FindSurface(s.Instance(), v.Text(0)); if (surface != nullptr) KeyUp(s.Instance(), *surface, v.Long(1), v.Has(2) ? v.Long(2) : 0); return NoResult(); }},
+    {"DevicePress",     "long long number number", DeviceMouse<DevicePress>},
+    {"DeviceMove",      "long long number number", DeviceMouse<DeviceMove>},
+    {"DeviceRelease",   "long long number number", DeviceMouse<DeviceRelease>},
     {"MenuItem",        "name [long]", MenuItemCall},
     // Handed on.
     {"GPSLocation",     "",          [](Script& s, Values) { return Result(s.Plot().GPSLocation()); }},
     {"Copy2Clipboard",  "",          [](Script& s, Values) { return Result(s.Plot().Copy2Clipboard()); }},
+    {"TracePicture",    "",          [](Script& s, Values) { return PictureOf(s); }},
     {"PrintTrace",      "number number number number", [](Script& s, Values v) { return Result(s.Plot().PrintTrace(v.Number(0), v.Number(1), v.Number(2), v.Number(3))); }},
+    {"WriteProperties", "",          [](Script& s, Values) { return StoredProperties(s); }},
+    {"ReadProperties",  "text",      RestoreProperties},
     // Looking into it.
     {"TextWidth",       "name text number", TextWidth},
     {"State",           "",          [](Script& s, Values) { return Json{{"result", StateJson(s.Plot())}}; }},
@@ -243,6 +318,7 @@ constexpr ScriptMember Members[] = {
     {"Slots",           "",          [](Script& s, Values) { return Slots(s); }},
     {"Markers",         "",          [](Script& s, Values) { return Markers(s); }},
     {"Draw",            "[name]",    Draw},
+    {AskedMember,       "",          [](Script& s, Values) { return Asked(s); }},
     // Answers to what the control will ask.
     {"Answer",          "name",      [](Script& s, Values v) { s.Platform().Answers.push_back(v.Text(0)); return NoResult(); }},
     {"Choose",          "name [long]", [](Script& s, Values v) { s.Platform().Choices.push_back({v.Text(0), v.Has(1) ? v.Long(1) : -1}); return NoResult(); }},

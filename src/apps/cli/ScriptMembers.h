@@ -13,6 +13,9 @@
 
 namespace Traces::Cli {
 
+/// The member that tells what the call before it made the platform do; other calls forget that.
+inline constexpr std::string_view AskedMember = "Asked";
+
 class Script;
 
 /// A call's arguments, converted to what the member takes.

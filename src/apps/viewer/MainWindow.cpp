@@ -1,7 +1,9 @@
 #include "apps/viewer/MainWindow.h"
 
+#include "chart/ChartMouse.h"
 #include "chart/Markers.h"
 #include "control/Control.h"
+#include "control/HeadlessPlatform.h"
 #include "control/ModeTable.h"
 #include "control/TraceContent.h"
 #include "formats/Files.h"
@@ -44,15 +46,39 @@ QString ScreenText(std::string_view text)
     return QString::fromStdString(Utf8FromAnsi(text));
 }
 
+std::string FileName(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+/// A trace shown out of sight first, so that one whose numbers make no curve changes nothing.
+struct Trial {
+    HeadlessPlatform Platform;
+    Plot Control{Platform};
+    QString Problem;
+
+    explicit Trial(const QString& path)
+    {
+        const auto read = ReadWholeFile(FileName(path));
+        Problem = read ? ScreenText(ContentProblem(AllFamilies, *read)) : QObject::tr("can't be read");
+        if (!Problem.isEmpty())
+            return;
+        Content = *read;
+        try {
+            Control.Clear(); // the demonstration curve
+            ShowContent(Control.Instance(), Content, {});
+        } catch (const HostFault& fault) {
+            Problem = QObject::tr("can't be shown: %1").arg(QString::fromUtf8(fault.what()));
+        }
+    }
+
+    std::string Content;
+};
+
 /// The words of a fault or a problem behind a file's name.
 QString Sentence(const QString& path, const QString& problem)
 {
     return QFileInfo(path).fileName() + QLatin1Char(' ') + problem + QLatin1Char('.');
-}
-
-std::string FileName(const QString& path)
-{
-    return QFile::encodeName(path).toStdString();
 }
 
 } // namespace
@@ -99,7 +125,7 @@ QAction* MainWindow::Add(QMenu* menu, const QString& text, const QKeySequence& k
                                               key.toString(QKeySequence::NativeText) + QLatin1Char(')');
     action->setToolTip(shown);
     action->setStatusTip(tip);
-    connect(action, &QAction::triggered, this, run);
+    connect(action, &QAction::triggered, this, [this, run] { Guarded(run); });
     menu->setToolTipsVisible(true);
     return action;
 }
@@ -171,18 +197,36 @@ void MainWindow::MakeViewMenu()
     QAction* undo = Add(menu, tr("&Undo zoom"), QKeySequence(tr("Ctrl+0")), tr("Show the whole curve again"),
                         [this] { chart->ChooseMenuItem("menuUndoZoom"); });
     bar->addActions({scale, undo});
-    traceActions += {scale, undo};
+    constexpr float closer = 0.5F, farther = 2;
+    traceActions += {scale, undo,
+                     Add(menu, tr("Zoom &in"), QKeySequence::ZoomIn, tr("Show the middle half of the chart"),
+                         [this, closer] { ZoomAboutMiddle(chart->Plot().Instance(), closer); }),
+                     Add(menu, tr("Zoom &out"), QKeySequence::ZoomOut, tr("Show twice as much of the chart"),
+                         [this, farther] { ZoomAboutMiddle(chart->Plot().Instance(), farther); })};
     menu->addSeparator();
     for (std::int16_t k = 0; k < static_cast<std::int16_t>(MarkerCount); ++k) {
         QAction* marker = Add(menu, tr("Marker &%1").arg(k + 1), QKeySequence(Qt::CTRL | (Qt::Key_1 + k)),
                               tr("Switch marker %1 on or off").arg(k + 1), [this, k] {
-                                  const MarkerSet* markers = FamilyMarkers(chart->Plot().Instance());
-                                  if (markers != nullptr)
-                                      SetMarkerState(chart->Plot().Instance(), k,
-                                                     !markers->MarkerOn[static_cast<std::size_t>(k)]);
+                                  Control& control = chart->Plot().Instance();
+                                  MarkerSet* markers = FamilyMarkers(control);
+                                  if (markers == nullptr)
+                                      return;
+                                  markers->SelectedMarker = k;
+                                  SetMarkerState(control, k, !markers->MarkerOn[static_cast<std::size_t>(k)]);
                               });
         traceActions += marker;
     }
+    const auto step = [this](int keyCode) {
+        return [this, keyCode] {
+            Control& control = chart->Plot().Instance();
+            if (MarkerSet* markers = FamilyMarkers(control))
+                StepMarker(control, *markers, keyCode);
+        };
+    };
+    traceActions += Add(menu, tr("Marker to the &left"), QKeySequence(tr("Ctrl+Left")),
+                        tr("Move the marker that was switched or grabbed last"), step(KeyCodes::Left));
+    traceActions += Add(menu, tr("Marker to the &right"), QKeySequence(tr("Ctrl+Right")),
+                        tr("Move the marker that was switched or grabbed last"), step(KeyCodes::Right));
     traceActions += Add(menu, tr("&Clear markers"), QKeySequence(tr("Ctrl+Shift+M")),
                         tr("Switch all markers off"), [this] { chart->Plot().ClearMarkers(); });
     menu->addSeparator();
@@ -224,21 +268,16 @@ void MainWindow::MakeHelpMenu()
 
 bool MainWindow::OpenFile(const QString& path)
 {
-    const auto content = ReadWholeFile(FileName(path));
-    const QString problem = content ? ScreenText(ContentProblem(AllFamilies, *content)) : tr("can't be read");
-    if (!problem.isEmpty()) {
-        Complain(path, problem);
+    const Trial trial(path);
+    if (!trial.Problem.isEmpty()) {
+        Complain(path, trial.Problem);
         return false;
     }
     Control& control = chart->Plot().Instance();
-    QString fault;
-    try {
-        control.ZoomActive = false;
-        ShowContent(control, *content, AnsiFromUtf8(QFileInfo(path).completeBaseName().toStdString()));
-    } catch (const HostFault& reason) {
-        fault = QString::fromUtf8(reason.what());
-    }
+    chart->Plot().Clear(); // what was laid over the trace before goes with it
+    control.ZoomActive = false;
     overlays = 0;
+    ShowContent(control, trial.Content, AnsiFromUtf8(QFileInfo(path).completeBaseName().toStdString()));
     if (folder.ShowFile(path)) {
         const QSignalBlocker quiet(files);
         files->clear();
@@ -247,26 +286,19 @@ bool MainWindow::OpenFile(const QString& path)
     files->setCurrentRow(folder.Place());
     Remember(path);
     ShowState(path);
-    if (!fault.isEmpty())
-        statusBar()->showMessage(fault);
     return true;
 }
 
 bool MainWindow::OverlayFile(const QString& path)
 {
-    const auto content = ReadWholeFile(FileName(path));
-    QString problem = content ? ScreenText(ContentProblem(AllFamilies, *content)) : tr("can't be read");
-    PlotWidget other; // never shown
-    if (problem.isEmpty()) {
-        try {
-            ShowContent(other.Plot().Instance(), *content, {});
-        } catch (const HostFault& fault) {
-            problem = QString::fromUtf8(fault.what());
-        }
-    }
-    const TraceSlot& curve = other.Plot().Instance().TraceSlots[0];
-    if (problem.isEmpty() && other.Plot().Instance().CurrentMode != chart->Plot().Instance().CurrentMode)
+    Trial trial(path);
+    QString problem = trial.Problem;
+    const Control& other = trial.Control.Instance();
+    const TraceSlot& curve = other.TraceSlots[0];
+    if (problem.isEmpty() && other.CurrentMode != chart->Plot().Instance().CurrentMode)
         problem = tr("is another kind of measurement");
+    else if (problem.isEmpty() && curve.Length < 1)
+        problem = tr("has no curve to lay over this one");
     if (!problem.isEmpty()) {
         Complain(path, problem);
         return false;
@@ -274,10 +306,11 @@ bool MainWindow::OverlayFile(const QString& path)
     Plot& plot = chart->Plot();
     overlays = overlays % static_cast<int>(LiveSlots - 1) + 1;
     plot.SetIndex(static_cast<std::int16_t>(overlays));
-    const bool laid = plot.PlotCurve(curve.Length, curve.X, curve.Y);
+    const bool told = Guarded([&] { plot.PlotCurve(curve.Length, curve.X, curve.Y); });
     plot.SetIndex(0);
-    statusBar()->showMessage(tr("%1 laid over").arg(QFileInfo(path).fileName()));
-    return laid;
+    if (told)
+        statusBar()->showMessage(tr("%1 laid over").arg(QFileInfo(path).fileName()));
+    return told;
 }
 
 bool MainWindow::ExportPicture(const QString& path)
@@ -373,8 +406,31 @@ void MainWindow::Save()
 void MainWindow::ShowPlace(int place)
 {
     const QString path = folder.File(place);
-    if (!path.isEmpty() && !OpenFile(path))
-        files->setCurrentRow(folder.Place());
+    if (path.isEmpty() || OpenFile(path))
+        return;
+    // The next step goes on from the trace that couldn't be shown.
+    folder.ShowFile(path);
+    const QSignalBlocker quiet(files);
+    files->setCurrentRow(folder.Place());
+    ShowSteps();
+}
+
+bool MainWindow::Guarded(const std::function<void()>& action)
+{
+    try {
+        action();
+        return true;
+    } catch (const HostFault& fault) {
+        statusBar()->showMessage(QString::fromUtf8(fault.what()));
+        return false;
+    }
+}
+
+void MainWindow::ShowSteps()
+{
+    previous->setEnabled(folder.Place() > 0);
+    next->setEnabled(folder.Place() + 1 < folder.Count());
+    counts->setText(tr("%1 of %2").arg(folder.Place() + 1).arg(folder.Count()));
 }
 
 void MainWindow::ShowSummary(bool shown)
@@ -405,6 +461,7 @@ void MainWindow::Remember(const QString& path)
 void MainWindow::ListRecent()
 {
     recentMenu->clear();
+    recentMenu->setToolTipsVisible(true);
     recentMenu->setEnabled(!recent.isEmpty());
     for (const QString& path : recent) {
         QAction* action = recentMenu->addAction(QFileInfo(path).fileName());
@@ -418,15 +475,13 @@ void MainWindow::ShowState(const QString& path)
     const Control& control = chart->Plot().Instance();
     for (QAction* action : traceActions)
         action->setEnabled(true);
-    previous->setEnabled(folder.Place() > 0);
-    next->setEnabled(folder.Place() + 1 < folder.Count());
+    ShowSteps();
     setWindowTitle(tr("%1 - Traces").arg(QFileInfo(path).fileName()));
     setWindowFilePath(path);
     const TraceHeader& header = control.Header;
     trace->setText(ScreenText(ModeName(header.Mode) + ", " + std::string(TrimBlanks(header.Date)) + " " +
                               std::string(TrimBlanks(header.Time)) + ", " +
                               std::to_string(header.DataPoints) + " points"));
-    counts->setText(tr("%1 of %2").arg(folder.Place() + 1).arg(folder.Count()));
     statusBar()->clearMessage();
 }
 

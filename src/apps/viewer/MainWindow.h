@@ -56,6 +56,11 @@ private:
     void Save();
     void MakeFolderList();
     void ShowPlace(int place);
+    void ShowSteps();
+
+    /// Runs what a user wants of the control. False at a fault of the trace's own numbers, which the status
+    /// line tells.
+    bool Guarded(const std::function<void()>& action);
     void ShowSummary(bool shown);
     void About();
     void Remember(const QString& path);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace Traces {
 
@@ -33,13 +34,23 @@ struct ShownLevel {
     std::string Unit, Text;
 };
 
+/// The limits are single precision, so that just a milliwatt shows as 1000.00 uW.
+ShownLevel ToWatts(double level)
+{
+    constexpr std::pair<double, const char*> units[] = {{1, "W"}, {1e-3, "mW"}, {1e-6, "uW"}, {1e-9, "nW"}};
+    const double watts = std::pow(10.0, level / 10 - 3);
+    for (const auto& [unit, name] : units)
+        if (watts >= static_cast<double>(static_cast<float>(unit)))
+            return {name, FormatValue(watts / unit, "#0.00")};
+    return {"pW", FormatValue(watts / 1e-12, "#0.00")};
+}
+
 ShownLevel LevelOf(const CDMARecord& record, float power)
 {
     const float level = power + record.PowerOffset;
     if (record.DisplayUnits == 0)
         return {"dBm", ValueText(level)};
-    const PowerInUnit watts = DbmToWattsUnit(static_cast<double>(level));
-    return {std::string(watts.Unit), FormatValue(watts.Value, "#0.00")};
+    return ToWatts(static_cast<double>(level));
 }
 
 void DrawSpectrumResults(ChartSurface& holder, const CDMARecord& record)

@@ -53,10 +53,24 @@ bool EndDecode(Control& control, const RawBuffer& buffer, double version)
     return !life.Gone();
 }
 
-void AddHeadLines(const CDMARecord& record, ParameterList& lines)
+/// The display's name in a report, whose table has other numbers than the views.
+std::string DisplayName(const CDMARecord& record)
+{
+    constexpr int histogram = 0, overTheAir = 2, measurement = 3;
+    switch (record.DisplayType) {
+    case 3: return CDMADisplay.Text(overTheAir);
+    case 4: return CDMADisplay.Text(measurement);
+    case 1: return CDMADisplay.Text(1);
+    default: return CDMADisplay.Text(histogram);
+    }
+}
+
+void AddHeadLines(const CDMARecord& record, const std::string& display, ParameterList& lines)
 {
     for (const auto& field : CDMAHeadFields(LevelVersion)) {
-        if (field.Key == "Channel:") {
+        if (field.Key == "Display Type:") {
+            lines.AddLine(field.Key, display);
+        } else if (field.Key == "Channel:") {
             lines.AddLine(field.Key, NumberOrNA(record.Channel));
             lines.AddLine("RefLelOffset CalStatus:", record.RefLevelOffsetCalStatus);
         } else {
@@ -86,6 +100,24 @@ void AddRows(const CDMARecord& record, ParameterList& lines)
     }
 }
 
+void AddOlderLines(const CDMARecord& record, const std::string& display, ParameterList& lines)
+{
+    AddHeadLines(record, display, lines);
+    AddParamLines(lines, record, CDMAScanFields(LevelVersion));
+    AddParamLines(lines, record, CDMAPlaceFields);
+    AddRows(record, lines);
+}
+
+void AddNewerLines(const CDMARecord& record, const std::string& display, ParameterList& lines)
+{
+    AddHeadLines(record, display, lines);
+    AddParamLines(lines, record, CDMAScanFields_v320_above(LayoutVersion));
+    AddParamLines(lines, record, CDMAPlaceFields_v320_above);
+    lines.AddLine("UTC Time:", record.UTCTime);
+    lines.AddLine("No Valid PilotScan:", NumberText(record.NoValidPilotScan));
+    AddRows(record, lines);
+}
+
 template <std::size_t Count>
 void LoadKeys(const TraceText& text, CDMARecord& record, const std::array<Field<CDMARecord>, Count>& fields)
 {
@@ -93,13 +125,13 @@ void LoadKeys(const TraceText& text, CDMARecord& record, const std::array<Field<
         // The two statuses aren't read back: they stay as the trace before left them.
         if (field.Key == "Signal Status:" || field.Key == "Measurement Status:")
             continue;
-        const std::string_view value = text.ParamValue(CodeLookupKey(field.Key));
+        const std::string_view key = CodeLookupKey(field.Key);
         if (field.Key != "Channel:")
-            LoadCodeField(value, field.Member.Of(record));
-        else if (const auto channel = NumberFromNA(value); channel && !value.empty())
+            LoadLine(text, key, field.Member.Of(record));
+        else if (const auto channel = NumberFromNA(text.ParamValue(key)); channel && text.HasLine(key))
             record.Channel = *channel;
     }
-    LoadCodeField(text.ParamValue("RefLelOffset CalStatus"), &record.RefLevelOffsetCalStatus);
+    LoadLine(text, "RefLelOffset CalStatus", &record.RefLevelOffsetCalStatus);
 }
 
 void LoadRows(const TraceText& text, CDMARecord& record)
@@ -124,8 +156,9 @@ bool EndLoad(Control& control, const TraceText& text)
 {
     CDMARecord& record = control.CDMA;
     LoadRows(text, record);
-    control.CurrentMode = control.Header.Mode;
+    SetCurrentMode(control, control.Header.Mode);
     TakeCDMAMarkers(control);
+    control.CDMAViewMode = record.DisplayType;
     const LifeWatch life(control);
     CDMAStatusMessage(control);
     if (life.Gone())
@@ -172,26 +205,24 @@ void DecodeCDMATraceByVersion(Control& control, const RawBuffer& buffer)
 
 void CDMAParams(const Control& control, ParameterList& lines)
 {
-    AddHeadLines(control.CDMA, lines);
-    AddParamLines(lines, control.CDMA, CDMAScanFields(LevelVersion));
-    AddParamLines(lines, control.CDMA, CDMAPlaceFields);
-    AddRows(control.CDMA, lines);
+    AddOlderLines(control.CDMA, NumberText(control.CDMA.DisplayType), lines);
 }
 
 void CDMAParams_v320_above(const Control& control, ParameterList& lines)
 {
-    AddHeadLines(control.CDMA, lines);
-    AddParamLines(lines, control.CDMA, CDMAScanFields_v320_above(LayoutVersion));
-    AddParamLines(lines, control.CDMA, CDMAPlaceFields_v320_above);
-    lines.AddLine("UTC Time:", control.CDMA.UTCTime);
-    lines.AddLine("No Valid PilotScan:", NumberText(control.CDMA.NoValidPilotScan));
-    AddRows(control.CDMA, lines);
+    AddNewerLines(control.CDMA, NumberText(control.CDMA.DisplayType), lines);
 }
 
 void CDMAParamsByVersion(const Control& control, ParameterList& lines)
 {
     const bool newer = Library().TraceVersionValue >= LayoutVersion;
     return newer ? CDMAParams_v320_above(control, lines) : CDMAParams(control, lines);
+}
+
+void CDMAReport(const Control& control, ParameterList& lines)
+{
+    const bool newer = Library().TraceVersionValue >= LayoutVersion;
+    (newer ? AddNewerLines : AddOlderLines)(control.CDMA, DisplayName(control.CDMA), lines);
 }
 
 void LoadCDMAText(Control& control, std::string_view text, const std::string& path)
@@ -208,8 +239,8 @@ void LoadCDMAText(Control& control, std::string_view text, const std::string& pa
     LoadKeys(*traceText, record, CDMAScanFields(LevelVersion));
     if (!EndLoad(control, *traceText))
         return;
-    CDMAParams(control, control.lstParameters);
     EndTextLoad(control);
+    CDMAParams(control, control.lstParameters);
 }
 
 void LoadCDMAText_v320_above(Control& control, std::string_view text, const std::string& path)
@@ -223,12 +254,12 @@ void LoadCDMAText_v320_above(Control& control, std::string_view text, const std:
     LoadKeys(*traceText, record, CDMAHeadFields(LayoutVersion));
     LoadKeys(*traceText, record, CDMAScanFields_v320_above(LayoutVersion));
     LoadKeys(*traceText, record, CDMAPlaceFields_v320_above);
-    LoadCodeField(traceText->ParamValue("UTC Time:"), &record.UTCTime);
+    LoadLine(*traceText, "UTC Time:", &record.UTCTime);
     LoadField(traceText->ParamValue("No Valid PilotScan:"), &record.NoValidPilotScan, Through::Float);
     if (!EndLoad(control, *traceText))
         return;
-    CDMAParams_v320_above(control, control.lstParameters);
     EndTextLoad(control);
+    CDMAParams_v320_above(control, control.lstParameters);
 }
 
 bool IsGoodCDMAMeasurement(const Control& control)

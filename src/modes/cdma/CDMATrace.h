@@ -26,6 +26,8 @@ void DecodeCDMATraceByVersion(Control& control, const RawBuffer& buffer); ///< t
 void CDMAParams(const Control& control, ParameterList& lines);
 void CDMAParams_v320_above(const Control& control, ParameterList& lines);
 void CDMAParamsByVersion(const Control& control, ParameterList& lines);
+/// With the display in words.
+void CDMAReport(const Control& control, ParameterList& lines);
 /// @}
 
 /// Load the text of a trace file; show the checksum message and change nothing when it doesn't verify. The

@@ -12,12 +12,6 @@ std::string_view CodeLookupKey(std::string_view key)
     return key.substr(0, key.size() - 1);
 }
 
-void LoadCodeField(std::string_view value, FieldRef field)
-{
-    if (!value.empty())
-        LoadField(value, field, Through::FieldType);
-}
-
 void DecodeCodeText(const RawBuffer& buffer, int offset, int width, std::string& field)
 {
     if (const auto text = ReadChars(buffer, offset, width))

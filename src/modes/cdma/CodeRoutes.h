@@ -11,9 +11,6 @@ namespace Traces {
 /// What a key is looked up by: without its colon, but for keys that are the beginning of others.
 std::string_view CodeLookupKey(std::string_view key);
 
-/// A field from a line's value. A missing line leaves it, a text as well as a number.
-void LoadCodeField(std::string_view value, FieldRef field);
-
 /// Characters of a raw trace up to the first zero, without blanks at both ends.
 void DecodeCodeText(const RawBuffer& buffer, int offset, int width, std::string& field);
 

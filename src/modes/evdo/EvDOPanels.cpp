@@ -123,8 +123,7 @@ void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
     for (std::size_t i = 0; i < std::size(rows); ++i) {
         const std::string pn =
             record.SearchMode == Untriggered ? "N/A" : FormatValue(std::int32_t{record.PilotScanPN[i]}, "#0");
-        DrawTextAt(holder, "PN", 372, rows[i], TextSize, false, Black);
-        DrawTextAt(holder, pn, 402, rows[i], ListSize, false, Blue);
+        DrawTextAt(holder, pn, 372, rows[i], ListSize, false, Blue);
     }
 }
 
@@ -203,8 +202,9 @@ ScanRow PilotRow(const EvDORecord& record, std::size_t i, bool newer)
 {
     constexpr std::int16_t noPilot = 999;
     constexpr std::size_t firstDoubtful = 4;
-    const bool absent =
-        record.SearchMode == Untriggered || (i >= firstDoubtful && record.PilotScanPN[i] == noPilot);
+    if (i >= firstDoubtful && record.PilotScanPN[i] == noPilot)
+        return {"N/A", "N/A", "N/A", 0, false};
+    const bool absent = record.SearchMode == Untriggered;
     const bool valid = !newer || static_cast<int>(i) < record.NoValidPilotScan;
     const std::string number = absent ? "N/A" : FormatValue(std::int32_t{record.PilotScanPN[i]}, "#0");
     const std::string delay = newer && valid ? DelayText(record.PilotTau[i]) : "---";
@@ -289,11 +289,12 @@ void DrawEvDOScan(Control& control)
     // The record tells one delay and the power of all paths together.
     const bool untriggered = record.SearchMode == Untriggered;
     std::vector<ScanRow> paths(3, ScanRow{"---", "", "---", 0, false});
-    paths[0] = {DelayText(record.Tau), "", FormatValue(record.MultipathPower, "#0.00"), record.MultipathPower,
-                true};
+    if (!newer || record.NoValidPilotScan > 0)
+        paths[0] = {DelayText(record.Tau), "", FormatValue(record.MultipathPower, "#0.00"),
+                    record.MultipathPower, true};
     if (untriggered)
         paths.assign(3, ScanRow{"N/A", "", "N/A", 0, false});
-    DrawTable(holder, {212, 242, 30, 16, "Tau", "Multipath", false}, paths);
+    DrawTable(holder, {210, 242, 30, 16, "Tau", "Multipath", false}, paths);
 }
 
 void DrawEvDOSummary(Control& control)

@@ -134,21 +134,22 @@ template <std::size_t Count>
 void LoadKeys(const TraceText& text, EvDORecord& record, const std::array<Field<EvDORecord>, Count>& fields)
 {
     for (const auto& field : fields) {
-        const std::string_view value = text.ParamValue(CodeLookupKey(field.Key));
+        const std::string_view key = CodeLookupKey(field.Key);
+        const std::string_view value = text.ParamValue(key);
         const CodeTable* table = EvDOTableOf(field.Key);
         if (value.empty())
-            continue;
-        if (table != nullptr)
+            LoadLine(text, key, field.Member.Of(record));
+        else if (table != nullptr)
             StoreCode(field.Member.Of(record), table->Code(value));
         else if (field.Key == "Data Markers:")
             record.DataMarkers = DataMarkersValue(value);
         else if (field.Key == "Channel:")
             record.Channel = NumberFromNA(value).value_or(record.Channel);
         else
-            LoadCodeField(value, field.Member.Of(record));
+            LoadField(value, field.Member.Of(record), Through::FieldType);
     }
-    LoadCodeField(text.ParamValue("RefLelOffset CalStatus"), &record.RefLevelOffsetCalStatus);
-    LoadCodeField(text.ParamValue("Signal Standard Name:"), &record.SignalStandardName);
+    LoadLine(text, "RefLelOffset CalStatus", &record.RefLevelOffsetCalStatus);
+    LoadLine(text, "Signal Standard Name:", &record.SignalStandardName);
 }
 
 void LoadRows(const TraceText& text, EvDORecord& record, std::size_t macCodes)
@@ -192,8 +193,9 @@ void WarnOfBadMeasurement(Control& control)
 bool EndLoad(Control& control, const TraceText& text, std::size_t macCodes)
 {
     LoadRows(text, control.EvDO, macCodes);
-    control.CurrentMode = control.Header.Mode;
+    SetCurrentMode(control, control.Header.Mode);
     TakeEvDOMarkers(control);
+    control.EvDOViewMode = control.EvDO.DisplayType;
     const LifeWatch life(control);
     WarnOfBadMeasurement(control);
     if (life.Gone())
@@ -296,8 +298,8 @@ void LoadEvDOText(Control& control, std::string_view text, const std::string& pa
     LoadKeys(*traceText, record, EvDOTailFields(LevelVersion));
     if (!EndLoad(control, *traceText, EvDOOlderBlocks.MACCodes))
         return;
-    EvDOParams(control, control.lstParameters);
     EndTextLoad(control);
+    EvDOParams(control, control.lstParameters);
 }
 
 void LoadEvDOText_v320_above(Control& control, std::string_view text, const std::string& path)
@@ -311,14 +313,14 @@ void LoadEvDOText_v320_above(Control& control, std::string_view text, const std:
     LoadKeys(*traceText, record, EvDOHeadFields(LayoutVersion));
     LoadKeys(*traceText, record, EvDOScanFields_v320_above(LayoutVersion));
     for (std::size_t k = 0; k < EvDORecord::Paths; ++k)
-        LoadCodeField(traceText->ParamValue(RowKey("Tau ", k + 1)), &record.PilotTau[k]);
-    LoadCodeField(traceText->ParamValue("UTC Time:"), &record.UTCTime);
+        LoadLine(*traceText, RowKey("Tau ", k + 1), &record.PilotTau[k]);
+    LoadLine(*traceText, "UTC Time:", &record.UTCTime);
     LoadField(traceText->ParamValue("No Valid PilotScan:"), &record.NoValidPilotScan, Through::Float);
     LoadKeys(*traceText, record, EvDOTailFields_v320_above(LayoutVersion));
     if (!EndLoad(control, *traceText, EvDOBlocks_v320_above.MACCodes))
         return;
-    EvDOParams_v320_above(control, control.lstParameters);
     EndTextLoad(control);
+    EvDOParams_v320_above(control, control.lstParameters);
 }
 
 bool IsGoodEvDOMeasurement(const Control& control)

@@ -57,10 +57,10 @@ std::string Title(const Control& control)
 
 std::string SearchText(const EvDORecord& record)
 {
-    constexpr std::uint8_t gps = 1, external = 3;
-    if (record.SearchMode == gps)
-        return "GPS";
-    if (record.SearchMode == external)
+    constexpr std::uint8_t gpsManual = 1, externalManual = 3;
+    if (record.SearchMode == gpsManual)
+        return "GPS " + NumberText(record.PNOffset0);
+    if (record.SearchMode == externalManual)
         return "Ext " + NumberText(record.PNOffset0);
     return TriggerMode.Text(record.SearchMode);
 }
@@ -92,9 +92,13 @@ void DrawHead(Control& control)
 /// The markers that stand on this box's codes; the others have a box of their own.
 void DrawBoxMarkers(Control& control, ChartSurface& box, bool onMAC)
 {
+    constexpr std::int16_t lastDataCode = EvDORecord::DataCodes - 1;
     MarkerSet shown = control.EvDOMarkers;
-    for (std::size_t k = 0; k < MarkerCount; ++k)
+    for (std::size_t k = 0; k < MarkerCount; ++k) {
+        if (!shown.MarkerOnAlt[k])
+            shown.MarkerIndex[k] = std::min(shown.MarkerIndex[k], lastDataCode);
         shown.MarkerOn[k] = shown.MarkerOn[k] && shown.MarkerOnAlt[k] == onMAC;
+    }
     DrawMarkerLines(control, box, shown);
     control.EvDOMarkers.MarkerIndex = shown.MarkerIndex;
 }
@@ -110,8 +114,10 @@ void DrawMACCodes(Control& control)
     const float half = HalfBarWidth(control, box);
     for (std::size_t t = 0; t < LiveSlots; ++t) {
         const TraceSlot& slot = control.TraceSlots[t];
-        for (std::size_t i = 0; static_cast<int>(i) < slot.Length && i < EvDORecord::MACCodes; ++i)
+        for (std::size_t i = 0; static_cast<int>(i) < slot.Length && i < EvDORecord::MACCodes; ++i) {
+            CheckCurvePoint(slot, i);
             DrawCodeBar(box, {slot.X[i], slot.Y[i]}, half, window, control.EvDO.CDPMACType[i]);
+        }
     }
     DrawLevelLines(control, box, window);
     if (control.EvDOChartHasMarkers)
@@ -225,8 +231,7 @@ void DrawReadouts(Control& control)
 {
     for (std::size_t k = 0; k < MarkerCount; ++k)
         control.EvDOMarkers.MarkerText[k] = EvDOMarkerText(control, k);
-    // The results of the other pages have that place.
-    if (control.DisplayMarkerValues && control.EvDOViewMode < 2)
+    if (control.DisplayMarkerValues)
         DrawMarkerReadouts(control.EvDOMarkers);
 }
 
@@ -239,6 +244,7 @@ void DrawEvDOTrace(Control& control)
     ChartSurface& sub = control.EvDOSubBox;
     BeginView(holder, top);
     sub.AutoRedraw = true;
+    sub.DrawStyle = LineStyle::Solid;
     sub.Cls();
     control.ParamBox.Visible = false;
     if (!IsGoodEvDOMeasurement(control)) {

@@ -96,6 +96,7 @@ bool LoadEvent(std::string_view line, GPSEvent& event)
 void LoadEvents(Control& control, const TraceText& text)
 {
     constexpr std::size_t valuePlace = 21, valueWidth = 50;
+    control.GPSEvents.clear(); // those of the trace before
     ResizeEvents(control);
     for (std::size_t i = 0; i < control.GPSEvents.size(); ++i) {
         GPSEvent& event = control.GPSEvents[i];

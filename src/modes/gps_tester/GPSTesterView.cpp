@@ -102,7 +102,8 @@ std::vector<std::string> ShownGPSEvents(const Control& control)
     std::vector<std::string> lines;
     for (const GPSEvent& event : control.GPSEvents) {
         const std::string& status = event.Columns[GPSEvent::Status];
-        if (status != "GPS Status Bad" && status != "Tracked 0 satellites")
+        if (!event.Columns[GPSEvent::Shown].empty() && status != "GPS Status Bad" &&
+            status != "Tracked 0 satellites")
             lines.push_back(event.Columns[GPSEvent::Shown]);
     }
     return lines;

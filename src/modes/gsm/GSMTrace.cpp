@@ -43,16 +43,14 @@ std::string_view LoadKey(const Field<GSMRecord>& field)
 void LoadKeys(const TraceText& text, GSMRecord& record)
 {
     for (const auto& field : GSMFields(0)) {
-        const std::string_view value = text.ParamValue(LoadKey(field));
-        // A missing line leaves its field, a text as well as a number.
-        if (value.empty())
-            continue;
-        if (field.Key == "Display Units:")
+        const std::string_view key = LoadKey(field);
+        const std::string_view value = text.ParamValue(key);
+        if (value.empty() || !IsShownAsText(field.Key))
+            LoadLine(text, key, field.Member.Of(record));
+        else if (field.Key == "Display Units:")
             record.DisplayUnits = static_cast<std::uint8_t>(GSMUnits.Code(value));
-        else if (field.Key == "Channel:")
-            record.Channel = NumberFromNA(value).value_or(record.Channel);
         else
-            LoadField(value, field.Member.Of(record), Through::FieldType);
+            record.Channel = NumberFromNA(value).value_or(record.Channel);
     }
 }
 

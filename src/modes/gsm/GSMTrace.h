@@ -28,8 +28,8 @@ std::string GSMPointKey(std::size_t point);
 
 GpsFix GSMPosition(const Control& control);
 
-/// Frames of 2562 bytes. Levels go by the bias of the header's firmware, in the text route of the file's.
-/// @throws HostFault Overflow for a byte out of 0 to 255.
+/// Frames of 2562 bytes. Levels go by the bias of the header's firmware, in the text route of the file's. A number
+/// that no byte holds leaves its place blank.
 /// @{
 std::string EncodeGSMRecord(const Control& control);
 std::string EncodeGSMText(std::string_view text);

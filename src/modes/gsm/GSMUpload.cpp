@@ -21,6 +21,12 @@ void PutLevel(UploadFrame& frame, const GSMCurveField& curve, std::size_t point,
     frame.Put(position, PutI16(level * GSMLevelScale + bias));
 }
 
+/// A number that no byte holds leaves its place blank.
+bool IsByte(double value)
+{
+    return RoundTo<std::uint8_t>(value).has_value();
+}
+
 /// The status of the reference offset stands in the record route's frames alone, as the name in front of it.
 constexpr std::string_view RecordRouteKey = "RefLelOffset CalStatus:";
 
@@ -32,7 +38,7 @@ void PutTextField(UploadFrame& frame, const TraceText& text, const Field<GSMReco
         frame.Put(position, PutI16(NumberFromNA(value).value_or(0)));
     else if (field.Key == "Display Units:")
         frame.Put(position, PutByte(GSMUnits.Code(value)));
-    else if (field.Key != RecordRouteKey)
+    else if (field.Key != RecordRouteKey && (field.Reader != Read::Byte || IsByte(ValueOf(value))))
         EncodeFieldText(frame, position, field.Form(), text, field.Key);
 }
 
@@ -44,7 +50,9 @@ std::string EncodeGSMRecord(const Control& control)
     const double bias = GSMLevelBias(control.Header.Version);
     UploadFrame frame(FrameLength);
     PutFrameHead(frame, control.Header);
-    EncodeFields(frame, record, GSMFields(bias), FrameShift);
+    for (const auto& field : GSMFields(bias))
+        if (field.Key != RecordRouteKey || IsByte(ValueOf(record.RefLevelCalStatus)))
+            EncodeField(frame, field.Offset - FrameShift, field.Form(), field.Member.In(record));
     frame.Put(GSMStandardName - FrameShift, FixedText(record.SignalStandard, GSMStandardNameWidth));
     for (const GSMCurveField& curve : GSMCurves)
         for (std::size_t i = 0; i < GSMRecord::Points; ++i)

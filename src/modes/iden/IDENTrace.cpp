@@ -61,14 +61,10 @@ void LoadCurve(const TraceText& text, const IDENCurveField& field, std::span<flo
     }
 }
 
-/// A line that isn't there, or holds nothing, leaves its field.
 void LoadKeys(const TraceText& text, IDENRecord& record)
 {
-    for (const auto& field : IDENFields) {
-        const std::string_view key = field.Key == "PhaseNoise:" ? "phaseNoise:" : field.Key;
-        if (const std::string_view value = text.ParamValue(key); !value.empty())
-            LoadField(value, field.Member.Of(record), Through::FieldType);
-    }
+    for (const auto& field : IDENFields)
+        LoadLine(text, field.Key == "PhaseNoise:" ? "phaseNoise:" : field.Key, field.Member.Of(record));
 }
 
 } // namespace

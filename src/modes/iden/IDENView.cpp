@@ -202,7 +202,7 @@ void DrawOneView(Control& control)
 /// A chart of the wide layout: its name above, its results below.
 void DrawQuarter(Control& control, ChartSurface& box, std::int16_t view)
 {
-    constexpr int nameAbove = 15, resultsBelow = 4, rowHeight = 14, valueLeft = 95, textSize = 12;
+    constexpr int nameAbove = 16, resultsBelow = 4, rowHeight = 14, valueLeft = 95, textSize = 16;
     ChartSurface& holder = control.idenHolder;
     const int left = WholeUnits(box.Left);
     DrawChartOf(control, box, view);
@@ -242,7 +242,7 @@ void DrawIDENTrace(Control& control)
 {
     ChartSurface& holder = control.idenHolder;
     const std::array<ChartSurface*, 3> small = {&control.idenbox1, &control.idenbox2, &control.idenbox3};
-    const bool wide = control.IDENWideLayout && !control.ShowParams;
+    const bool wide = IsLaidOutWide(control);
     BeginView(holder, control.idenbox);
     for (ChartSurface* box : small) {
         box->Visible = wide;

@@ -184,8 +184,7 @@ void DrawMarkers(Control& control)
         if (!markers.MarkerOn[i])
             continue;
         any = true;
-        if (static_cast<int>(i) != markers.DraggedMarker)
-            markers.MarkerText[i] = PointText(control, static_cast<std::size_t>(markers.MarkerIndex[i]));
+        markers.MarkerText[i] = SpectroMarkerText(control, i);
     }
     if (any && control.Spectro.SweepCount > 0) {
         const float at = static_cast<float>(control.SpectroSweep) + 0.5F;
@@ -249,6 +248,11 @@ void EndSpectroView(Control& control)
 }
 
 } // namespace
+
+std::string SpectroMarkerText(Control& control, std::size_t marker)
+{
+    return PointText(control, static_cast<std::size_t>(control.SpectroMarkers.MarkerIndex[marker]));
+}
 
 void DrawSpectroTrace(Control& control)
 {

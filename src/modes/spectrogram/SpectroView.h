@@ -2,6 +2,7 @@
 // alone.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace Traces {
@@ -21,5 +22,8 @@ void ChooseSweepAt(Control& control, float x, float y);
 
 /// What the mouse is on, for the coordinate label of the map: frequency, time and level.
 std::string SpectroCoordsText(const Control& control, float x, float y);
+
+/// A marker's frequency, and the level of the chosen sweep there.
+std::string SpectroMarkerText(Control& control, std::size_t marker);
 
 } // namespace Traces

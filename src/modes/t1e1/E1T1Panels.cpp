@@ -167,7 +167,6 @@ void DrawVFView(Control& control)
     control.VFFreqLabel.Caption = known ? FrequencyText(record) : "UNAVAILABLE";
     DrawTextAt(holder, "Power (dBm)", 100, 230, PanelText);
     control.VFPowerLabel.Caption = known ? PowerText(record) : "UNAVAILABLE";
-    holder.ForeColor = Black;
     DrawVFSettings(control);
     EndReading(control);
 }

@@ -13,13 +13,13 @@ namespace Traces {
 
 namespace {
 
-/// A character field keeps no zeros, and its width.
-void TidyTexts(E1T1Record& record)
+/// The texts of fixed width, cut or padded to it. Those of a raw trace keep no zeros.
+void FixTexts(E1T1Record& record, bool raw)
 {
     for (const auto& field : E1T1HeadFields)
         if (field.Reader == Read::Chars) {
             auto& text = *std::get<std::string*>(field.Member.Of(record));
-            text = FixedText(TrimNuls(text), static_cast<std::size_t>(field.Width));
+            text = FixedText(raw ? TrimNuls(text) : text, static_cast<std::size_t>(field.Width));
         }
 }
 
@@ -81,7 +81,7 @@ void LoadHead(const TraceText& text, E1T1Record& record)
         else if (const auto alarm = StrictNumber<std::uint8_t>(value))
             record.RxAlarms = NumberText(*alarm);
     }
-    TidyTexts(record);
+    FixTexts(record, false);
 }
 
 /// Levels go through a whole number, words through their table and back: "100 Ohms" has no way back.
@@ -106,7 +106,7 @@ void DecodeE1T1(Control& control, const RawBuffer& buffer)
     constexpr int keptByte = 687;
     E1T1Record& record = control.E1T1;
     DecodeFields(buffer, record, E1T1HeadFields);
-    TidyTexts(record);
+    FixTexts(record, true);
     DecodeSlices(buffer, record);
     DecodeFields(buffer, record, E1T1TailFields);
     DecodeField(buffer, {keptByte, Read::Byte}, &record.Record687);

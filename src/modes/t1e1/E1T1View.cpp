@@ -138,7 +138,7 @@ void DrawFlags(ChartSurface& map, std::uint8_t flags, float left, float right)
 void DrawBars(Control& control)
 {
     ChartSurface& box = control.E1T1Box;
-    const float half = box.ScaleWidth / static_cast<float>(control.TraceSlots[0].Length) / 2;
+    const float half = (LastEdge - FirstEdge) / static_cast<float>(control.TraceSlots[0].Length) / 2;
     for (std::size_t t = 0; t < LiveSlots; ++t) {
         const TraceSlot& slot = control.TraceSlots[t];
         for (std::size_t i = 0; slot.Length > 1 && static_cast<int>(i) < slot.Length; ++i) {
@@ -167,6 +167,18 @@ void DrawGrid(const Control& control, ChartSurface& box)
     box.DrawStyle = LineStyle::Solid;
 }
 
+/// All slices, or those of a zoom, which the map keeps in step with.
+void ScaleBoxes(Control& control)
+{
+    ChartWindow window = {FirstEdge, LastEdge, 0, Decades};
+    if (control.ZoomActive && control.ZoomX1 < control.ZoomX2) {
+        window = {control.ZoomX1, control.ZoomX2, control.ZoomY1, control.ZoomY2};
+        PadZoomRange(window, Decades, 0);
+    }
+    control.E1T1Box.Scale(window.Xmin, window.Ymax, window.Xmax, window.Ymin);
+    control.ErrorsBox.Scale(window.Xmin, Decades, window.Xmax, 0);
+}
+
 void DrawHistogram(Control& control)
 {
     control.E1T1Box.Visible = control.ErrorsBox.Visible = true;
@@ -177,8 +189,7 @@ void DrawHistogram(Control& control)
     DrawAxisLegend(control);
     DrawTimes(control);
     DrawSettings(control);
-    for (ChartSurface* box : {&control.E1T1Box, &control.ErrorsBox})
-        box->Scale(FirstEdge, Decades, LastEdge, 0);
+    ScaleBoxes(control);
     if (control.TraceSlots[0].Length == 0)
         return;
     DrawBars(control);

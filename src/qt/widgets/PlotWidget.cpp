@@ -25,7 +25,9 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <exception>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Traces {
@@ -83,6 +85,7 @@ struct PlotWidget::Kept {
     QTimer Description;            ///< screen readers needn't hear each step of a drag
     QListWidget* Events = nullptr; ///< the widget's own child, over the box of a GPS check
     std::vector<std::string> EventLines;
+    bool AutoScaleY = false; ///< as it was told last
 };
 
 PlotWidget::PlotWidget(QWidget* parent)
@@ -110,7 +113,7 @@ void PlotWidget::Guarded(Action action)
     const QPointer<PlotWidget> self(this);
     try {
         action(plot->Instance());
-    } catch (const HostFault& fault) {
+    } catch (const std::exception& fault) { // of the trace's numbers, or of a handler: Qt can't carry them on
         if (!self.isNull())
             Q_EMIT Faulted(QString::fromUtf8(fault.what()));
     }
@@ -183,6 +186,9 @@ unsigned PlotWidget::PaintedPictures() const
 QSize PlotWidget::sizeHint() const
 {
     constexpr int widthWithPane = 911;
+    constexpr QSize allViews(1500, 820);
+    if (IsLaidOutWide(plot->Instance()))
+        return allViews;
     return ShowParams() ? QSize(widthWithPane, DesignSize.height()) : DesignSize;
 }
 
@@ -277,8 +283,10 @@ void PlotWidget::mouseDoubleClickEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return mousePressEvent(event);
     Guarded([&](Control& control) {
+        const LifeWatch life(control);
         DeviceDoubleClick(control, event->position().x(), event->position().y());
-        ShowPointer(event->position());
+        if (!life.Gone())
+            ShowPointer(event->position());
     });
 }
 
@@ -322,16 +330,26 @@ void PlotWidget::TellPropertyChanged(std::string_view name)
     else if (name == "BorderStyle")
         Q_EMIT BorderStyleChanged(BorderStyle());
     else if (name == "AutoScaleY")
-        Q_EMIT AutoScaleYChanged(AutoScaleY());
+        TellChangedScale();
 }
 
 void PlotWidget::PictureChanged()
 {
     update();
-    if (plot != nullptr)
+    if (plot != nullptr) {
         ShowEventList();
+        TellChangedScale();
+    }
     if (kept != nullptr && plot != nullptr && !kept->Description.isActive())
         kept->Description.start();
+}
+
+/// Menus and new traces change it, too.
+void PlotWidget::TellChangedScale()
+{
+    const bool scaled = plot->AutoScaleY();
+    if (std::exchange(kept->AutoScaleY, scaled) != scaled)
+        Q_EMIT AutoScaleYChanged(scaled);
 }
 
 /// A list that scrolls, in the place of the lines that the control has drawn into its box.
@@ -349,6 +367,11 @@ void PlotWidget::ShowEventList()
         kept->Events->setObjectName("Events");
         kept->Events->setAccessibleName(tr("Events"));
         kept->Events->setFrameShape(QFrame::NoFrame);
+        kept->Events->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(kept->Events, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+            platform->MenuPlace = kept->Events->mapToGlobal(at);
+            Guarded([](Control& shown) { DeviceMenuKey(shown); });
+        });
     }
     QListWidget& list = *kept->Events;
     const DevicePlace place = DevicePlaceOf(box);

@@ -106,8 +106,8 @@ Q_SIGNALS:
     void MarkerChanged(int index, bool value);
     /// @}
 
-    /// A fault of the trace's own numbers while the user worked on the chart, where there is no caller to
-    /// throw it to.
+    /// A fault of the trace's own numbers, or of a handler, while the user worked on the chart, where there
+    /// is no caller to throw it to.
     void Faulted(const QString& what);
 
 protected:
@@ -131,6 +131,7 @@ private:
     void ShowPointer(QPointF place);
     void DescribeTrace();
     void ShowEventList();
+    void TellChangedScale();
 
     /// Runs what a device event does to the control. This may be gone afterwards.
     template <class Action>
