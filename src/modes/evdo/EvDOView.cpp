@@ -231,6 +231,7 @@ void DrawReadouts(Control& control)
 {
     for (std::size_t k = 0; k < MarkerCount; ++k)
         control.EvDOMarkers.MarkerText[k] = EvDOMarkerText(control, k);
+    control.EvDOHolder.ForeColor = Black;
     if (control.DisplayMarkerValues)
         DrawMarkerReadouts(control.EvDOMarkers);
 }
