@@ -189,6 +189,13 @@ void AppendNumberText(std::string& text, float value)
     text.resize(before + static_cast<std::size_t>(PutNumber(start, value) - start));
 }
 
+void AppendNumberText(std::string& text, std::int32_t value)
+{
+    std::array<char, 12> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    text.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
+}
+
 std::string SignedNumberText(std::int32_t value)
 {
     return (value < 0 ? "" : " ") + std::to_string(value);

@@ -27,6 +27,7 @@ std::string NumberText(double value);
 
 /// Appends NumberText(value) to text without making a string of its own.
 void AppendNumberText(std::string& text, float value);
+void AppendNumberText(std::string& text, std::int32_t value);
 
 /// Decimal digits with one blank in front of a value that isn't negative: " 0", "-1". As the keys
 /// of data point lines have it.

@@ -27,6 +27,27 @@ bool StandsAt(std::string_view whole, std::size_t place, std::string_view text)
            std::memcmp(whole.data() + place, text.data(), text.size()) == 0;
 }
 
+/// The places of line feeds, eight characters at a time: lines are short, and a search for each costs more.
+template <class Action>
+void ForEachLineFeed(std::string_view text, Action action)
+{
+    constexpr std::uint64_t ones = 0x0101010101010101, low = 0x7F7F7F7F7F7F7F7F;
+    std::size_t at = 0;
+    if constexpr (std::endian::native == std::endian::little)
+        for (; at + sizeof(std::uint64_t) <= text.size(); at += sizeof(std::uint64_t)) {
+            std::uint64_t characters = 0;
+            std::memcpy(&characters, text.data() + at, sizeof characters);
+            characters ^= ones * '\n';
+            // The top bit of every byte that is zero now.
+            for (std::uint64_t found = ~(((characters & low) + low) | characters | low); found != 0;
+                 found &= found - 1)
+                action(at + static_cast<std::size_t>(std::countr_zero(found)) / 8);
+        }
+    for (; at < text.size(); ++at)
+        if (text[at] == '\n')
+            action(at);
+}
+
 } // namespace
 
 void TraceText::PlaceIndex::Build(std::string_view whole, std::vector<std::size_t> where,
@@ -68,13 +89,13 @@ std::size_t TraceText::NextCharacter::From(std::string_view whole, std::size_t p
 TraceText::TraceText(std::string_view whole) : text(whole)
 {
     constexpr std::size_t shortLine = 12;
-    lineStarts.reserve(text.size() / shortLine);
-    for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1))
-        lineStarts.push_back(at + 1);
-    std::vector<std::size_t> hashed = lineStarts;
-    while (!hashed.empty() && hashed.back() + HashLength > text.size())
-        hashed.pop_back();
-    lines.Build(text, std::move(hashed), 0);
+    std::vector<std::size_t> starts;
+    starts.reserve(text.size() / shortLine);
+    ForEachLineFeed(text, [&](std::size_t at) {
+        if (at + 1 + HashLength <= text.size())
+            starts.push_back(at + 1);
+    });
+    lines.Build(text, std::move(starts), 0);
 }
 
 const TraceText::PlaceIndex& TraceText::Colons() const
@@ -106,8 +127,10 @@ std::size_t TraceText::FindLine(std::string_view key) const
     }
     if (key.size() >= HashLength)
         return lines.Find(key, begins);
-    const auto found = std::find_if(lineStarts.begin(), lineStarts.end(), begins);
-    return found == lineStarts.end() ? std::string_view::npos : *found;
+    for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1))
+        if (begins(at + 1))
+            return at + 1;
+    return std::string_view::npos;
 }
 
 std::size_t TraceText::FindAnywhere(std::string_view key) const

@@ -86,9 +86,8 @@ private:
     std::string_view ValueBehind(std::size_t place) const;
 
     std::string_view text;
-    std::vector<std::size_t> lineStarts; ///< places behind each line feed
-    PlaceIndex lines;                    ///< line starts by their first characters
-    mutable PlaceIndex colons;           ///< colons by the characters in front of them
+    PlaceIndex lines;          ///< line starts by their first characters
+    mutable PlaceIndex colons; ///< colons by the characters in front of them
     NextCharacter nextTab{'\t'}, nextReturn{'\r'};
 };
 

@@ -106,9 +106,8 @@ TEST_F(GPSTester, CountsBeyondTheRoomAreBroughtWithinIt)
         EXPECT_EQ(state.GPSEvents.size(), taken);
         EXPECT_EQ(record.EventCount, told);
     }
-    EXPECT_EQ(state.GPSEvents[0].Columns[GPSEvent::Time], "110000");
-    EXPECT_EQ(state.GPSEvents[1].Columns[GPSEvent::Shown], " - Tracked 0 satellites (0mA)")
-        << "behind the trace's end";
+    EXPECT_EQ(state.GPSEvents[0].Time, "110000");
+    EXPECT_EQ(state.GPSEvents[1].Shown(), " - Tracked 0 satellites (0mA)") << "behind the trace's end";
 }
 
 TEST_F(GPSTester, AFileBringsBackWhatTheListShows)
@@ -124,8 +123,8 @@ TEST_F(GPSTester, AFileBringsBackWhatTheListShows)
     EXPECT_EQ(loaded.CurrentMode, 148);
     EXPECT_TRUE(loaded.GPSTester.AutoSaveFlag);
     EXPECT_EQ(ShownGPSEvents(loaded), ShownGPSEvents(state));
-    EXPECT_EQ(loaded.GPSEvents[3].Columns[GPSEvent::Status], "Tracked 0 satellites");
-    EXPECT_EQ(loaded.GPSEvents[0].Columns[GPSEvent::SecondTime], "") << "behind what is read";
+    EXPECT_EQ(loaded.GPSEvents[3].Status, "Tracked 0 satellites");
+    EXPECT_EQ(loaded.GPSEvents[0].SecondTime, "") << "behind what is read";
 
     fresh.LoadiDen_GPS_Tester_Text(WithChecksum("Auto Save Flag:\tmaybe\r\nLength of Event List:\t3\r\n"
                                                 "GPS Tester Data 001:\t999999\tall well\r\nGPS Tester Data "
@@ -134,7 +133,7 @@ TEST_F(GPSTester, AFileBringsBackWhatTheListShows)
     EXPECT_TRUE(loaded.GPSTester.AutoSaveFlag);
     ASSERT_EQ(loaded.GPSEvents.size(), 3U);
     EXPECT_EQ(ShownGPSEvents(loaded).size(), 1U) << "two columns are no event, nor is a missing line";
-    EXPECT_EQ(loaded.GPSEvents[1].Columns[GPSEvent::Shown], "113000 - Tracked 4 satellites (4294967295mA)");
+    EXPECT_EQ(loaded.GPSEvents[1].Shown(), "113000 - Tracked 4 satellites (4294967295mA)");
 }
 
 TEST_F(GPSTester, ThePaneTellsHowItWent)

@@ -200,9 +200,9 @@ void MainWindow::MakeViewMenu()
     constexpr float closer = 0.5F, farther = 2;
     traceActions += {scale, undo,
                      Add(menu, tr("Zoom &in"), QKeySequence::ZoomIn, tr("Show the middle half of the chart"),
-                         [this, closer] { ZoomAboutMiddle(chart->Plot().Instance(), closer); }),
+                         [this] { ZoomAboutMiddle(chart->Plot().Instance(), closer); }),
                      Add(menu, tr("Zoom &out"), QKeySequence::ZoomOut, tr("Show twice as much of the chart"),
-                         [this, farther] { ZoomAboutMiddle(chart->Plot().Instance(), farther); })};
+                         [this] { ZoomAboutMiddle(chart->Plot().Instance(), farther); })};
     menu->addSeparator();
     for (std::int16_t k = 0; k < static_cast<std::int16_t>(MarkerCount); ++k) {
         QAction* marker = Add(menu, tr("Marker &%1").arg(k + 1), QKeySequence(Qt::CTRL | (Qt::Key_1 + k)),

@@ -1,18 +1,21 @@
 // The decoded record of a GPS receiver's long check, and the events of its run.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
 namespace Traces {
 
-/// One event. The texts of its columns: code, two numbers of which the second has become words, a current in
-/// mA, two times, and the line of the list.
+/// One event of the run, in texts; all empty for one that a file doesn't tell.
 struct GPSEvent {
-    static constexpr std::size_t Code = 0, Number = 1, Status = 2, Current = 3, Time = 4, SecondTime = 5,
-                                 Shown = 6;
-    std::array<std::string, 7> Columns;
+    std::string Code, Number;
+    std::string Status;     ///< words: of the fix, or how many satellites are tracked
+    std::string Current;    ///< mA
+    std::string Time;       ///< "102030"
+    std::string SecondTime; ///< day, month and year in front of a time
+
+    /// The line of the list: "102030 - Tracked 7 satellites (85mA)".
+    std::string Shown() const { return Time + " - " + Status + " (" + Current + "mA)"; }
 };
 
 struct GPSTesterRecord {

@@ -2,8 +2,8 @@
 
 #include "control/Control.h"
 #include "control/TextLoader.h"
-#include "formats/FormatValue.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "modes/gps_tester/GPSTesterFields.h"
 
@@ -25,14 +25,6 @@ std::string StatusText(int code, int number)
     return "Tracked " + NumberText(number) + " satellites";
 }
 
-/// "102030 - Tracked 7 satellites (85mA)"
-void JoinColumns(GPSEvent& event)
-{
-    auto& columns = event.Columns;
-    columns[GPSEvent::Shown] = columns[GPSEvent::Time] + " - " + columns[GPSEvent::Status] + " (" +
-                               columns[GPSEvent::Current] + std::string(CurrentEnd);
-}
-
 void ResizeEvents(Control& control)
 {
     const std::int16_t count =
@@ -48,49 +40,39 @@ std::string TimeText(const RawBuffer& buffer, int offset, int width)
 void DecodeEvent(const RawBuffer& buffer, int at, GPSEvent& event)
 {
     const int code = ReadByte(buffer, at + GPSEventRow::Code).value_or(0);
-    auto& columns = event.Columns;
-    columns[GPSEvent::Code] = NumberText(code);
-    columns[GPSEvent::Number] = NumberText(ReadI16(buffer, at + GPSEventRow::Number).value_or(0));
-    columns[GPSEvent::Status] = StatusText(code, ReadI16(buffer, at + GPSEventRow::Status).value_or(0));
-    columns[GPSEvent::Current] = NumberText(ReadU32(buffer, at + GPSEventRow::Current).value_or(0));
-    columns[GPSEvent::Time] = TimeText(buffer, at + GPSEventRow::Time, GPSEventRow::TimeWidth);
-    columns[GPSEvent::SecondTime] =
-        TimeText(buffer, at + GPSEventRow::SecondTime, GPSEventRow::SecondTimeWidth);
-    JoinColumns(event);
+    event.Code = NumberText(code);
+    event.Number = NumberText(ReadI16(buffer, at + GPSEventRow::Number).value_or(0));
+    event.Status = StatusText(code, ReadI16(buffer, at + GPSEventRow::Status).value_or(0));
+    event.Current = NumberText(ReadU32(buffer, at + GPSEventRow::Current).value_or(0));
+    event.Time = TimeText(buffer, at + GPSEventRow::Time, GPSEventRow::TimeWidth);
+    event.SecondTime = TimeText(buffer, at + GPSEventRow::SecondTime, GPSEventRow::SecondTimeWidth);
 }
 
-/// "GPS Tester Data 001:"
-std::string EventKey(std::size_t event)
-{
-    return "GPS Tester Data " + FormatValue(static_cast<std::int32_t>(event + 1), "000:");
-}
+constexpr std::string_view EventStem = "GPS Tester Data ";
 
 /// The columns of the list come first: no more of the line is read back.
 void AddEvent(const GPSEvent& event, std::size_t index, ParameterList& lines)
 {
-    const auto& columns = event.Columns;
     std::string& line = lines.BeginLine();
-    line += EventKey(index) + '\t' + columns[GPSEvent::Time] + '\t' + columns[GPSEvent::Status] + "\t(" +
-            columns[GPSEvent::Current] + std::string(CurrentEnd);
-    for (const std::size_t column : {GPSEvent::Code, GPSEvent::Number, GPSEvent::SecondTime})
-        line += '\t' + columns[column];
+    line += RowKey(EventStem, index + 1, 3);
+    line += '\t' + event.Time + '\t' + event.Status + "\t(" + event.Current + std::string(CurrentEnd) + '\t' +
+            event.Code + '\t' + event.Number + '\t' + event.SecondTime;
     lines.EndLine();
 }
 
-/// The three columns of an event's line; false when it has others.
-bool LoadEvent(std::string_view line, GPSEvent& event)
+/// The three columns of an event's line; nothing from one that has others.
+void LoadEvent(std::string_view line, GPSEvent& event)
 {
     constexpr std::string_view end = "A)";
-    line = TrimBlanks(line.substr(0, std::min(line.find(end), line.size() - end.size()) + end.size()));
+    line = TrimBlanks(line.substr(0, std::min(line.find(end), line.size()) + end.size()));
     const std::size_t status = line.find('\t');
-    const std::size_t current = line.find("\t(", status + 1);
-    if (status == line.npos || current == line.npos || !line.ends_with(CurrentEnd))
-        return false;
-    event.Columns[GPSEvent::Time] = line.substr(0, status);
-    event.Columns[GPSEvent::Status] = line.substr(status + 1, current - status - 1);
+    const std::size_t current = line.find("\t(", std::min(status, line.size()) + 1);
+    if (current == line.npos || !line.ends_with(CurrentEnd))
+        return;
+    event.Time = line.substr(0, status);
+    event.Status = line.substr(status + 1, current - status - 1);
     line.remove_prefix(current + 2);
-    event.Columns[GPSEvent::Current] = line.substr(0, line.size() - CurrentEnd.size());
-    return true;
+    event.Current = line.substr(0, line.size() - CurrentEnd.size());
 }
 
 void LoadEvents(Control& control, const TraceText& text)
@@ -98,12 +80,8 @@ void LoadEvents(Control& control, const TraceText& text)
     constexpr std::size_t valuePlace = 21, valueWidth = 50;
     control.GPSEvents.clear(); // those of the trace before
     ResizeEvents(control);
-    for (std::size_t i = 0; i < control.GPSEvents.size(); ++i) {
-        GPSEvent& event = control.GPSEvents[i];
-        const std::string_view line = text.ParamChars(EventKey(i), valuePlace, valueWidth);
-        if (line.size() > 2 && LoadEvent(line, event))
-            JoinColumns(event);
-    }
+    for (std::size_t i = 0; i < control.GPSEvents.size(); ++i)
+        LoadEvent(text.ParamChars(RowKey(EventStem, i + 1, 3), valuePlace, valueWidth), control.GPSEvents[i]);
 }
 
 } // namespace

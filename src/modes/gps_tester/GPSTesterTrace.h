@@ -18,8 +18,8 @@ void DecodeGPSTester(Control& control, const RawBuffer& buffer);
 void GPSTesterParams(const Control& control, ParameterList& lines);
 
 /// Loads the text of a trace file; shows the checksum message and changes nothing when it doesn't verify.
-/// Of an event it takes what the list shows; codes, numbers and second times are lost, and so is an event whose
-/// line has other columns.
+/// Of an event it takes what the list shows; codes, numbers and second times are lost, and so is an event
+/// whose line has other columns.
 void LoadiDen_GPS_Tester_Text(Control& control, std::string_view text, const std::string& path);
 
 } // namespace Traces

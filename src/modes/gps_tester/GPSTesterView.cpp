@@ -101,10 +101,10 @@ std::vector<std::string> ShownGPSEvents(const Control& control)
 {
     std::vector<std::string> lines;
     for (const GPSEvent& event : control.GPSEvents) {
-        const std::string& status = event.Columns[GPSEvent::Status];
-        if (!event.Columns[GPSEvent::Shown].empty() && status != "GPS Status Bad" &&
-            status != "Tracked 0 satellites")
-            lines.push_back(event.Columns[GPSEvent::Shown]);
+        const bool none = event.Status.empty() || event.Status == "GPS Status Bad" ||
+                          event.Status == "Tracked 0 satellites";
+        if (!none)
+            lines.push_back(event.Shown());
     }
     return lines;
 }

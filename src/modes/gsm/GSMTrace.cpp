@@ -2,9 +2,9 @@
 
 #include "control/Control.h"
 #include "control/TextLoader.h"
-#include "formats/FormatValue.h"
 #include "formats/LibraryValues.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "modes/gsm/GSMChart.h"
 #include "modes/gsm/GSMFields.h"
@@ -59,7 +59,7 @@ void LoadCurves(const TraceText& text, GSMRecord& record)
     // A missing point takes the fields of the point before it: they stay in `fields`.
     LineFields fields;
     for (std::size_t i = 0; i < GSMRecord::Points; ++i) {
-        text.ParamFields(GSMPointKey(i), fields);
+        text.ParamFields(RowKey("", i, 3), fields);
         if (fields.Parts.size() != std::size(GSMCurves))
             continue;
         for (std::size_t c = 0; c < std::size(GSMCurves); ++c)
@@ -68,11 +68,6 @@ void LoadCurves(const TraceText& text, GSMRecord& record)
 }
 
 } // namespace
-
-std::string GSMPointKey(std::size_t point)
-{
-    return FormatValue(static_cast<std::int32_t>(point), "000:");
-}
 
 void DecodeGSMTrace(Control& control, const RawBuffer& buffer)
 {
@@ -100,7 +95,7 @@ void GSMParams(const Control& control, ParameterList& lines)
     }
     for (std::size_t i = 0; i < GSMRecord::Points; ++i) {
         std::string& line = lines.BeginLine();
-        line += GSMPointKey(i);
+        line += RowKey("", i, 3);
         for (const GSMCurveField& curve : GSMCurves) {
             line += '\t';
             AppendNumberText(line, (record.*curve.Curve)[i]);

@@ -23,13 +23,10 @@ void GSMParams(const Control& control, ParameterList& lines);
 /// The burst's power stays as it was: files have never been asked for the key that it is saved under.
 void LoadGSMText(Control& control, std::string_view text, const std::string& path);
 
-/// The key of a point's line: "007:" for the eighth.
-std::string GSMPointKey(std::size_t point);
-
 GpsFix GSMPosition(const Control& control);
 
-/// Frames of 2562 bytes. Levels go by the bias of the header's firmware, in the text route of the file's. A number
-/// that no byte holds leaves its place blank.
+/// Frames of 2562 bytes. Levels go by the bias of the header's firmware, in the text route of the file's. A
+/// number that no byte holds leaves its place blank.
 /// @{
 std::string EncodeGSMRecord(const Control& control);
 std::string EncodeGSMText(std::string_view text);

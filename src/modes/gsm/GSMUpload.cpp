@@ -2,6 +2,7 @@
 #include "control/Control.h"
 #include "formats/CodeTable.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "formats/UploadFrame.h"
@@ -71,7 +72,7 @@ std::string EncodeGSMText(std::string_view file)
         PutTextField(frame, text, field);
     for (std::size_t i = 0; i < GSMRecord::Points; ++i) {
         LineFields fields;
-        if (!text.ParamFields(GSMPointKey(i), fields) || fields.Parts.size() != std::size(GSMCurves))
+        if (!text.ParamFields(RowKey("", i, 3), fields) || fields.Parts.size() != std::size(GSMCurves))
             continue;
         for (std::size_t c = 0; c < std::size(GSMCurves); ++c)
             PutLevel(frame, GSMCurves[c], i, ValueOf(fields.Parts[c]), bias);

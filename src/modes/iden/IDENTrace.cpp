@@ -2,8 +2,8 @@
 
 #include "control/Control.h"
 #include "control/TextLoader.h"
-#include "formats/FormatValue.h"
 #include "formats/Numbers.h"
+#include "formats/RowKey.h"
 #include "formats/Text.h"
 #include "modes/iden/IDENChart.h"
 #include "modes/iden/IDENFields.h"
@@ -35,17 +35,12 @@ void DecodeCurve(const RawBuffer& buffer, const IDENCurveField& field, std::span
     }
 }
 
-/// "ACPRSpectrumPower007:"
-std::string PointKey(const IDENCurveField& field, std::size_t point)
-{
-    return std::string(field.Name) + FormatValue(static_cast<std::int32_t>(point), "000:");
-}
-
 void AddCurve(const IDENCurveField& field, std::span<const float> curve, ParameterList& lines)
 {
     for (std::size_t i = 0; i < field.Listed; ++i) {
         std::string& line = lines.BeginLine();
-        line += PointKey(field, i) + '\t';
+        line += RowKey(field.Name, i, 3);
+        line += '\t';
         AppendNumberText(line, curve[i]);
         lines.EndLine();
     }
@@ -55,7 +50,7 @@ void AddCurve(const IDENCurveField& field, std::span<const float> curve, Paramet
 void LoadCurve(const TraceText& text, const IDENCurveField& field, std::span<float> curve)
 {
     for (std::size_t i = 0; i < field.Listed; ++i) {
-        std::string_view value = text.ParamChars(PointKey(field, i), field.ValueSkip, field.ValueWidth);
+        std::string_view value = text.ParamChars(RowKey(field.Name, i, 3), field.ValueSkip, field.ValueWidth);
         value.remove_prefix(std::min(value.find_first_not_of('\t'), value.size()));
         LoadField(value.substr(0, value.find('\t')), &curve[i], Through::FieldType);
     }

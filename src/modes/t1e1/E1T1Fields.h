@@ -9,13 +9,17 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace Traces {
 
 /// "Data(1):", the key of the first slice's line.
+inline constexpr std::string_view SliceStem = "Data(", SliceKeyEnd = "):";
 inline std::string SliceKey(std::size_t slice)
 {
-    return "Data(" + NumberText(static_cast<std::int32_t>(slice + 1)) + "):";
+    std::string key(SliceStem);
+    AppendNumberText(key, static_cast<std::int32_t>(slice + 1));
+    return key += SliceKeyEnd;
 }
 
 inline constexpr int FirstSlice = 156, SliceBytes = 5;

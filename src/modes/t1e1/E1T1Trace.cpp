@@ -44,8 +44,13 @@ void AddSlices(const E1T1Record& record, ParameterList& lines)
 {
     for (std::size_t i = 0; i < record.Slices.size(); ++i) {
         std::string& line = lines.BeginLine();
-        line += SliceKey(i) + '\t' + NumberText(record.Slices[i].SliceFlags) + '\t' +
-                NumberText(record.Slices[i].SliceCount);
+        line += SliceStem;
+        AppendNumberText(line, static_cast<std::int32_t>(i + 1));
+        line += SliceKeyEnd;
+        line += '\t';
+        AppendNumberText(line, std::int32_t{record.Slices[i].SliceFlags});
+        line += '\t';
+        AppendNumberText(line, record.Slices[i].SliceCount);
         lines.EndLine();
     }
 }
