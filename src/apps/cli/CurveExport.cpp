@@ -60,6 +60,11 @@ bool ShowsCDMASpectrum(const Control& control)
     return !control.ChartHasMarkers;
 }
 
+bool ShowsEvDOCodes(const Control& control)
+{
+    return control.EvDOChartHasMarkers;
+}
+
 bool ShowsConstellation(const Control& control)
 {
     return control.IDENViewMode == IDENView::Demod;
@@ -92,6 +97,8 @@ constexpr ExportRow Rows[] = {
     {TraceMode::E1,                 "Slice",           "Bit errors",       {},            PlaceOf,         nullptr,      Reflection::None},
     {TraceMode::CDMA,               "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None, ShowsCDMASpectrum},
     {TraceMode::CDMA,               "Walsh code",      "Power (dB)",       {},            WalshCodeOf,     nullptr,      Reflection::None},
+    {TraceMode::EvDO,               "MAC code",        "Power (dB)",       {},            PlaceOf,         nullptr,      Reflection::None, ShowsEvDOCodes},
+    {TraceMode::EvDO,               "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None},
     {TraceMode::GSM,                "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None},
     {TraceMode::IDEN,               "I",               "Q",                {},            PlaceOf,         nullptr,      Reflection::None, ShowsConstellation},
     {TraceMode::IDEN,               "Point",           "Level (dB)",       {},            PlaceOf,         nullptr,      Reflection::None},

@@ -8,6 +8,7 @@
 #include "control/TraceContent.h"
 #include "formats/Files.h"
 #include "formats/HostFault.h"
+#include "formats/LibraryValues.h"
 #include "formats/Text.h"
 #include "formats/TraceMode.h"
 #include "output/Svg.h"
@@ -34,6 +35,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <span>
 
 namespace Traces::Viewer {
 
@@ -52,6 +54,7 @@ std::string FileName(const QString& path)
 }
 
 /// A trace shown out of sight first, so that one whose numbers make no curve changes nothing.
+/// The thread's library values, which decoding writes, are those of the trace on show again afterwards.
 struct Trial {
     HeadlessPlatform Platform;
     Plot Control{Platform};
@@ -64,16 +67,27 @@ struct Trial {
         if (!Problem.isEmpty())
             return;
         Content = *read;
+        const LibraryValues shown = Library();
         try {
             Control.Clear(); // the demonstration curve
             ShowContent(Control.Instance(), Content, {});
         } catch (const HostFault& fault) {
             Problem = QObject::tr("can't be shown: %1").arg(QString::fromUtf8(fault.what()));
         }
+        Library() = shown;
     }
 
     std::string Content;
 };
+
+/// Shows the sub view that another control of the same mode shows.
+void ShowViewOf(Control& control, const Control& other)
+{
+    const ModeRow* row = CurrentRow(other);
+    for (const FamilyMenuItem& item : row != nullptr ? row->MenuItems : std::span<const FamilyMenuItem>())
+        if (!item.View.empty() && item.Checked(other))
+            return item.Run(control);
+}
 
 /// The words of a fault or a problem behind a file's name.
 QString Sentence(const QString& path, const QString& problem)
@@ -293,11 +307,13 @@ bool MainWindow::OverlayFile(const QString& path)
 {
     Trial trial(path);
     QString problem = trial.Problem;
-    const Control& other = trial.Control.Instance();
+    Control& other = trial.Control.Instance();
     const TraceSlot& curve = other.TraceSlots[0];
     if (problem.isEmpty() && other.CurrentMode != chart->Plot().Instance().CurrentMode)
         problem = tr("is another kind of measurement");
-    else if (problem.isEmpty() && curve.Length < 1)
+    if (problem.isEmpty())
+        Guarded([&] { ShowViewOf(other, chart->Plot().Instance()); });
+    if (problem.isEmpty() && curve.Length < 1)
         problem = tr("has no curve to lay over this one");
     if (!problem.isEmpty()) {
         Complain(path, problem);
@@ -319,14 +335,19 @@ bool MainWindow::ExportPicture(const QString& path)
     const QString form = QFileInfo(path).suffix().toLower();
     QtPictures pictures;
     std::string bytes;
+    QString problem;
     if (form == QLatin1String("svg"))
         bytes = SvgPicture(control);
     else if (form == QLatin1String("pdf"))
         bytes = pictures.Pdf(control);
     else if (form == QLatin1String("png"))
         bytes = pictures.Png(control, chart->devicePixelRatioF());
-    if (bytes.empty()) {
-        Complain(path, tr("has no extension that tells a picture's form: .png, .svg or .pdf"));
+    else
+        problem = tr("has no extension that tells a picture's form: .png, .svg or .pdf");
+    if (problem.isEmpty() && bytes.empty())
+        problem = tr("can't be drawn at this size");
+    if (!problem.isEmpty()) {
+        Complain(path, problem);
         return false;
     }
     const bool written = ReplaceFile(FileName(path), bytes, [](const std::string&) {});
@@ -479,9 +500,10 @@ void MainWindow::ShowState(const QString& path)
     setWindowTitle(tr("%1 - Traces").arg(QFileInfo(path).fileName()));
     setWindowFilePath(path);
     const TraceHeader& header = control.Header;
+    const auto length = control.TraceSlots[0].Length;
+    const std::string points = length > 0 ? ", " + std::to_string(length) + " points" : std::string();
     trace->setText(ScreenText(ModeName(header.Mode) + ", " + std::string(TrimBlanks(header.Date)) + " " +
-                              std::string(TrimBlanks(header.Time)) + ", " +
-                              std::to_string(header.DataPoints) + " points"));
+                              std::string(TrimBlanks(header.Time)) + points));
     statusBar()->clearMessage();
 }
 

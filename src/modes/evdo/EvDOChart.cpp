@@ -139,28 +139,28 @@ constinit const std::array<FamilyMenuItem, 5> EvDOMenuItems = {{
      [](const Control& control) {
          return ShowsCodes(control) && (control.EvDO.StatusByte1 & EvDOStatus::MAC) == 0;
      },
-     nullptr},
+     nullptr, "data"},
     {"menuEvDOCDPData", RunCDP<MAC>,
      [](const Control& control) {
          return ShowsCodes(control) && (control.EvDO.StatusByte1 & EvDOStatus::MAC) != 0;
      },
-     nullptr},
+     nullptr, "mac"},
     {"menuEvDOOTA",
      [](Control& control) {
          SelectView(control, OverTheAirView, false);
          RedrawTrace(control);
      },
-     [](const Control& control) { return control.EvDOViewMode == OverTheAirView; }, nullptr},
+     [](const Control& control) { return control.EvDOViewMode == OverTheAirView; }, nullptr, "air"},
     {"menuEvDORFSpecIdle", RunRF<Idle>,
      [](const Control& control) {
          return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) == 0;
      },
-     nullptr},
+     nullptr, "idle"},
     {"menuEvDORFSpecActive", RunRF<Active>,
      [](const Control& control) {
          return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) != 0;
      },
-     nullptr},
+     nullptr, "active"},
 }};
 
 } // namespace Traces
