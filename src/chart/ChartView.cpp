@@ -84,7 +84,7 @@ void DrawCurves(const Control& control, ChartSurface& box, std::size_t first)
 void DrawYellowCurve(const TraceSlot& curve, ChartSurface& box)
 {
     box.DrawStyle = LineStyle::Solid;
-    DrawCurve(curve, box, RGB(255, 255, 0));
+    DrawCurve(curve, box, Yellow);
 }
 
 void DrawYellowCurves(const Control& control, ChartSurface& box)

@@ -27,13 +27,22 @@ void DrawEnding(ChartSurface& holder, std::string_view text, int x, int y, int s
     DrawTextAt(holder, text, WholeUnits(x - static_cast<double>(holder.TextWidth(text))), y, size);
 }
 
+void DrawResultCells(ChartSurface& holder, float lastEdge)
+{
+    constexpr float top = 360, middle = 420, bottom = 480, firstEdge = 183, right = 600;
+    holder.FillBox(0, top, right, bottom, PaleYellow);
+    for (const float y : {top, middle})
+        holder.Line(0, y, right, y, Black);
+    for (const float x : {firstEdge, lastEdge})
+        holder.Line(x, top, x, bottom, Black);
+}
+
 void DrawResult(ChartSurface& holder, const Result& result)
 {
-    constexpr Colour blue = RGB(0, 0, 255);
     constexpr int labelSize = 10;
     constexpr int valueBelow = 16;
     DrawTextAt(holder, result.Label, result.X, result.Y, labelSize, false, Black);
-    DrawTextAt(holder, result.Value, result.X, result.Y + valueBelow, result.Size, false, blue);
+    DrawTextAt(holder, result.Value, result.X, result.Y + valueBelow, result.Size, false, Blue);
 }
 
 } // namespace Traces

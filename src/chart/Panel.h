@@ -21,6 +21,9 @@ void DrawCentred(ChartSurface& holder, std::string_view text, int x, int y, int 
 /// A text in the current colour that ends at x.
 void DrawEnding(ChartSurface& holder, std::string_view text, int x, int y, int size);
 
+/// The ground of the results below a chart: two rows of three cells, the last of which begins at `lastEdge`.
+void DrawResultCells(ChartSurface& holder, float lastEdge = 366);
+
 /// A result in a band below a chart: its label in black and its value in blue below it.
 struct Result {
     int X, Y;

@@ -13,7 +13,7 @@ struct Control;
 struct GpsFix;
 
 inline constexpr Colour PaneLabelBand = RGB(172, 255, 255); ///< behind the labels
-inline constexpr Colour PaneValueBand = RGB(255, 255, 200); ///< behind the values
+inline constexpr Colour PaneValueBand = PaleYellow;         ///< behind the values
 
 /// Which point of a text its X names.
 enum class PaneAlign : std::int16_t { End = -1, Start = 0, Centre = 1 };

@@ -11,8 +11,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour Grey = 0x808080;
-
 /// A curve that a host sees when it makes a view current before any trace.
 void FillDemonstrationCurve(Control& control)
 {
@@ -39,7 +37,7 @@ void SetColours(Control& control)
 /// The levels stand in black on the panel that lies under them.
 void SetUpLevelLabels(Control& control)
 {
-    constexpr Colour panelGrey = RGB(170, 170, 170);
+    constexpr Colour panelGrey = RGB(170, 170, 170); // that of chart/Panel.h
     for (Label* label : {&control.PowerLabel, &control.ZephraPowerLabel, &control.ZephraPowerLabelUnit,
                          &control.VppLabel, &control.VFFreqLabel, &control.VFPowerLabel}) {
         label->Visible = true;
@@ -85,10 +83,8 @@ Control::Control(Traces::Platform& platform, const Traces::Families& families)
     TwipsPerPixelY = platform.TwipsPerPixelY();
     Metrics = &platform.Metrics();
     Initialize(*this);
-    constexpr float designWidth = 550;
-    constexpr float designHeight = 480;
-    Surface.Width = designWidth;
-    Surface.Height = designHeight;
+    Surface.Width = DesignWidth;
+    Surface.Height = DesignHeight;
     LoadProperties(*this, {});
 }
 

@@ -37,6 +37,11 @@ struct TraceSlot {
     std::vector<float> Y;
 };
 
+/// Sizes for which the control is drawn, in units that are pixels there: the chart, with the pane beside it,
+/// and the four iDEN views.
+inline constexpr int DesignWidth = 550, DesignHeight = 480, WidthWithPane = 911, WideWidth = 1500,
+                     WideHeight = 820;
+
 inline constexpr std::size_t LiveSlots = 6; ///< slots that SetIndex reaches and views draw
 
 struct Control : private Screen, public ChildControls {

@@ -23,6 +23,10 @@ constexpr Colour RGB(int red, int green, int blue)
     return red | green << 8 | blue << 16;
 }
 
+inline constexpr Colour Red = RGB(255, 0, 0), Blue = RGB(0, 0, 255), Yellow = RGB(255, 255, 0);
+inline constexpr Colour Grey = RGB(128, 128, 128);       ///< behind the charts
+inline constexpr Colour PaleYellow = RGB(255, 255, 200); ///< behind results and values
+
 struct Point {
     float X, Y;
     bool operator==(const Point&) const = default;

@@ -10,13 +10,11 @@ namespace Traces {
 
 namespace {
 
-constexpr float HolderWidth = 550;
-constexpr float HolderHeight = 480;
+constexpr float HolderWidth = DesignWidth;
+constexpr float HolderHeight = DesignHeight;
 constexpr float SpectroHolderHeight = 580;
 constexpr float PaneLeft = 560;
 constexpr float PaneWidth = 350;
-
-constexpr float WideWidth = 1500;
 
 struct Rectangle {
     float Left, Top, Width, Height;
@@ -80,9 +78,9 @@ Rectangle UserSize(const Control& control)
 {
     const float frame = control.BorderStyle > MyBorderStyles::pbflat ? 4 : 0;
     if (control.ShowParams)
-        return {0, 0, 911 + frame, 480 + frame};
+        return {0, 0, WidthWithPane + frame, HolderHeight + frame};
     if (control.IDENWideLayout)
-        return {0, 0, WideWidth + frame, 820 + frame};
+        return {0, 0, WideWidth + frame, WideHeight + frame};
     return {0, 0, HolderWidth + frame, HolderHeight + frame};
 }
 

@@ -7,7 +7,7 @@ namespace Traces {
 namespace {
 
 constexpr std::int32_t StoredTrue = -1;
-constexpr Colour DefaultBackColor = 0x808080;
+constexpr Colour DefaultBackColor = Grey;
 
 std::int32_t Stored(bool value)
 {

@@ -11,6 +11,9 @@
 
 namespace Traces {
 
+/// How much lower than in the raw trace a field stands in a frame, whose head is the shorter one.
+inline constexpr int FrameShift = 13;
+
 /// Positions count from 1. A field that no encoder writes stays blank.
 class UploadFrame {
 public:

@@ -17,9 +17,8 @@ namespace Traces::Cli {
 
 namespace {
 
-constexpr PictureSize DesignSize = {550, 480};
-constexpr PictureSize DesignSizeWithPane = {911, 480};
-constexpr PictureSize DesignSizeOfAllViews = {1500, 820};
+constexpr PictureSize UsualSize = {DesignWidth, DesignHeight};
+constexpr PictureSize SizeWithPane = {WidthWithPane, DesignHeight};
 
 /// What pictures are made with: the Qt layer, or nothing but the core for SVG.
 struct Painter {
@@ -84,7 +83,7 @@ std::string Adjust(Control& control, const RenderOptions& options)
         if (std::string problem = ShowView(control, row, options.View); !problem.empty())
             return problem;
     if (IsLaidOutWide(control) && !options.Size)
-        Resize(control, DesignSizeOfAllViews.Width, DesignSizeOfAllViews.Height);
+        Resize(control, WideWidth, WideHeight);
     if (!options.Markers.empty()) {
         if (row == nullptr || row->Markers == nullptr)
             return "can't have markers: " + mode + " has none";
@@ -122,7 +121,7 @@ bool RenderTo(Console& console, const std::string& name, const std::string& targ
     trace.Plot().ShowParams(options.Params);
     trace.Plot().DisplayMarkerValues(!options.Results);
     if (options.Params || options.Size) {
-        const PictureSize size = options.Size.value_or(options.Params ? DesignSizeWithPane : DesignSize);
+        const PictureSize size = options.Size.value_or(options.Params ? SizeWithPane : UsualSize);
         trace.Plot().Resize(size.Width, size.Height);
     }
     if (!trace.Load(console, *input, OpenTrace::Need::Curve))

@@ -15,7 +15,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour Red = RGB(255, 0, 0), Blue = RGB(0, 0, 255);
 constexpr int LabelSize = 10, RowTextSize = 12;
 constexpr int OverTheAirView = 3, SpectrumView = 4;
 

@@ -15,7 +15,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour BarRed = RGB(255, 0, 0);
 constexpr int Left = 10, Right = 340;
 constexpr int RowHeight = 16;
 constexpr float TextSize = 9;
@@ -42,7 +41,7 @@ void DrawBar(ChartSurface& pane, int y, int right, float power, float most)
     const float length = static_cast<float>(right - BarLeft - 2 * inset);
     const float part = std::clamp((power - floor) / (most - floor), 0.0F, 1.0F);
     pane.FillBox(BarLeft + inset, static_cast<float>(y + inset), BarLeft + inset + length * part,
-                 static_cast<float>(y + RowHeight - inset), BarRed);
+                 static_cast<float>(y + RowHeight - inset), Red);
 }
 
 /// A table of rows with bars against the strongest pilot, where something was measured; gives the place

@@ -16,7 +16,6 @@ namespace Traces {
 namespace {
 
 constexpr int FrameLength = 1826;
-constexpr int FrameShift = 13;
 constexpr double CodePowerOffset = -CodePowerBase * CodePowerScale;
 
 void PutCode(UploadFrame& frame, std::size_t row, double power, double link, std::string_view type)

@@ -2,6 +2,7 @@
 
 #include "chart/ChartView.h"
 #include "chart/Markers.h"
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/CodeTable.h"
@@ -27,7 +28,7 @@ void DrawHead(Control& control)
     const ChartSurface& chart = control.GSMBox; // whose place the two families have always shared
     const std::string title = "CDMA-" + TitleOfPath(control.TraceName);
     const auto put = [&](const std::string& text, int x, int y) { DrawTextAt(holder, text, x, y, TextSize); };
-    put(title, WholeUnits(chart.Left + (chart.Width - holder.TextWidth(title)) / 2), 4);
+    DrawCentred(holder, title, WholeUnits(chart.Left + chart.Width / 2), 4, TextSize);
     put("Std=" + record.SignalStandard, WholeUnits(control.CDMABox.Left), 20);
     put("Channel=" + NumberOrNA(record.Channel), 400, 20);
 }

@@ -9,15 +9,6 @@
 
 namespace Traces {
 
-namespace {
-
-constexpr Colour Red = RGB(255, 0, 0);
-constexpr Colour ResultGround = RGB(255, 255, 200);
-constexpr float PanelTop = 360, PanelMiddle = 420, PanelBottom = 480;
-constexpr float CellEdge1 = 183, CellEdge2 = 366, PageWidth = 600;
-
-} // namespace
-
 bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window)
 {
     constexpr double margin = 0.01;
@@ -74,15 +65,6 @@ void DrawBadMeasurement(ChartSurface& box, const std::string& signal, const std:
     constexpr int size = 14;
     DrawCentredInChart(box, signal, 40, size);
     DrawCentredInChart(box, "Measurement Status: " + measurement, 50, size);
-}
-
-void DrawResultCells(ChartSurface& holder)
-{
-    holder.FillBox(0, PanelTop, PageWidth, PanelBottom, ResultGround);
-    holder.Line(0, PanelTop, PageWidth, PanelTop, Black);
-    holder.Line(0, PanelMiddle, PageWidth, PanelMiddle, Black);
-    holder.Line(CellEdge1, PanelTop, CellEdge1, PanelBottom, Black);
-    holder.Line(CellEdge2, PanelTop, CellEdge2, PanelBottom, Black);
 }
 
 } // namespace Traces

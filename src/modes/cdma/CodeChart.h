@@ -31,7 +31,4 @@ void DrawBadMeasurement(ChartSurface& box, const std::string& signal, const std:
 /// A text centred in a chart whose system is 100 by 100.
 void DrawCentredInChart(ChartSurface& box, const std::string& text, int y, int size);
 
-/// The ground of the results below a chart: two rows of three cells.
-void DrawResultCells(ChartSurface& holder);
-
 } // namespace Traces

@@ -16,7 +16,6 @@ namespace Traces {
 namespace {
 
 constexpr int FrameLength = 257;
-constexpr int FrameShift = 13;
 
 /// Keeps the count within the record's room. The header counts points, and a channel is one.
 void SettleChannelCount(Control& control)

@@ -1,6 +1,7 @@
 #include "modes/channel_scanner/CSView.h"
 
 #include "chart/ChartView.h"
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/FormatValue.h"
@@ -38,7 +39,7 @@ void DrawHead(Control& control)
         DrawTextAt(control.CSHolder, text, x, y, TextSize);
     };
     const std::string title = "CS-" + control.TraceName;
-    put(title, WholeUnits(box.Left + (box.Width - control.CSHolder.TextWidth(title)) / 2), 4);
+    DrawCentred(control.CSHolder, title, WholeUnits(box.Left + box.Width / 2), 4, TextSize);
     put("Ref Lvl " + FormatValue(record.RefLevel, "#0.0 dBm"), 2, 24);
     put("RBW " + FormatValue(record.RBWSetting / 1000.0, "#00 kHz"), 200, 24);
     put("VBW " + FormatValue(record.VBWSetting / 1000.0, "#00 kHz"), 400, 24);

@@ -20,7 +20,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour Red = RGB(255, 0, 0), Blue = RGB(0, 0, 255), TableGround = RGB(255, 255, 200);
 constexpr int LargeSize = 30, TextSize = 10, ListSize = 12;
 constexpr int OverTheAirView = 3, SpectrumView = 4;
 constexpr std::uint8_t Untriggered = 4;
@@ -162,7 +161,7 @@ void DrawTable(ChartSurface& holder, const ScanTable& table, const std::vector<S
     constexpr int number = 110, bars = 170, delay = 350, power = 430;
     constexpr float floor = -40, barLength = 160;
     const int bottom = table.FirstRow + table.RowStep * static_cast<int>(rows.size());
-    PaneBand(holder, 100, table.Top, 540, bottom, TableGround);
+    PaneBand(holder, 100, table.Top, 540, bottom, PaleYellow);
     PaneBand(holder, 100, table.Top, 540, table.Top + 20, PaneLabelBand);
     const auto head = [&](const char* text, int x) {
         DrawTextAt(holder, text, x, table.Top + 2, TextSize, false, Black);

@@ -16,7 +16,6 @@ namespace Traces {
 namespace {
 
 constexpr int FrameLength = 3139;
-constexpr int FrameShift = 13;
 constexpr double CodePowerOffset = -CodePowerBase * CodePowerScale;
 constexpr const EvDOBlocks& Blocks = EvDOOlderBlocks;
 

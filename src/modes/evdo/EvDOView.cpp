@@ -2,6 +2,7 @@
 
 #include "chart/ChartView.h"
 #include "chart/Markers.h"
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/CodeTable.h"
@@ -20,7 +21,6 @@ namespace {
 
 constexpr int TextSize = 10;
 constexpr int OverTheAirView = 3, SpectrumView = 4;
-constexpr Colour Yellow = RGB(255, 255, 0);
 
 struct Rectangle {
     float Left, Top, Width, Height;
@@ -71,7 +71,7 @@ void DrawHead(Control& control)
     ChartSurface& holder = control.EvDOHolder;
     const auto put = [&](const std::string& text, int x, int y) { DrawTextAt(holder, text, x, y, TextSize); };
     const std::string title = Title(control);
-    put(title, WholeUnits(WholeChart.Left + (WholeChart.Width - holder.TextWidth(title)) / 2), 4);
+    DrawCentred(holder, title, WholeUnits(WholeChart.Left + WholeChart.Width / 2), 4, TextSize);
     put("Std=" + record.SignalStandard, WholeUnits(WholeChart.Left), 20);
     put("Channel=" + NumberOrNA(record.Channel), 400, 20);
     if (record.RefLevelOffsetCalStatus.empty())

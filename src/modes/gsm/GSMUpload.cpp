@@ -14,7 +14,6 @@ namespace Traces {
 namespace {
 
 constexpr int FrameLength = 2562;
-constexpr int FrameShift = 13;
 
 void PutLevel(UploadFrame& frame, const GSMCurveField& curve, std::size_t point, double level, double bias)
 {

@@ -15,17 +15,6 @@ namespace {
 
 constexpr int TextSize = 10;
 
-void DrawBandGround(ChartSurface& holder)
-{
-    constexpr float top = 360, middle = 420, bottom = 480;
-    constexpr float right = 600;
-    holder.FillBox(0, top, right, bottom, RGB(255, 255, 200));
-    for (const float y : {top, middle})
-        holder.Line(0, y, right, y, Black);
-    for (const float x : {183.0F, 367.0F})
-        holder.Line(x, top, x, bottom, Black);
-}
-
 void DrawFrameTexts(Control& control)
 {
     const GSMRecord& record = control.GSM;
@@ -34,7 +23,7 @@ void DrawFrameTexts(Control& control)
     const int boxLeft = WholeUnits(box.Left);
     const auto put = [&](const std::string& text, int x, int y) { DrawTextAt(holder, text, x, y, TextSize); };
     const std::string title = "GSM-" + TitleOfPath(control.TraceName);
-    put(title, WholeUnits(box.Left + (box.Width - holder.TextWidth(title)) / 2), 4);
+    DrawCentred(holder, title, WholeUnits(box.Left + box.Width / 2), 4, TextSize);
     put("Std=" + record.SignalStandard, boxLeft, 20);
     put("Channel=" + NumberOrNA(record.Channel), 400, 20);
     put("Pwr Offset", 8, 240);
@@ -106,7 +95,8 @@ void DrawGSMTrace(Control& control)
     ChartSurface& box = control.GSMBox;
     BeginView(holder, box);
     SetBoxFont(holder, TextSize, false);
-    DrawBandGround(holder);
+    constexpr float lastCell = 367;
+    DrawResultCells(holder, lastCell);
     DrawFrameTexts(control);
     DrawBand(holder, control.GSM);
     holder.ForeColor = Black;

@@ -16,8 +16,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour Yellow = RGB(255, 255, 0);
-constexpr Colour BandGround = RGB(255, 255, 200);
 constexpr int TextSize = 10;
 
 struct Value {
@@ -168,15 +166,10 @@ void DrawAxis(Control& control)
 
 void DrawBand(Control& control)
 {
-    constexpr float top = 360, middle = 420, bottom = 480, right = 600;
     constexpr int valueSize = 20, longValueSize = 12;
     constexpr std::size_t longValue = 12;
     ChartSurface& holder = control.idenHolder;
-    holder.FillBox(0, top, right, bottom, BandGround);
-    for (const float y : {top, middle})
-        holder.Line(0, y, right, y, Black);
-    for (const float x : {183.0F, 367.0F})
-        holder.Line(x, top, x, bottom, Black);
+    DrawResultCells(holder);
     constexpr int lefts[] = {6, 190, 372};
     const auto results = ResultsOf(control.IDEN, control.IDENViewMode);
     for (std::size_t cell = 0; cell < results.size(); ++cell) {

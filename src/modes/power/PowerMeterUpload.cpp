@@ -12,7 +12,6 @@ namespace Traces {
 namespace {
 
 constexpr int FrameLength = 141;
-constexpr int FrameShift = 13;
 
 /// What the file's line gives for a field, or nothing for a number that the field can't hold.
 void PutTextField(UploadFrame& frame, const Field<PowerRecord>& field, const TraceText& text)

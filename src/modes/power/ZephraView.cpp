@@ -13,7 +13,6 @@ namespace Traces {
 namespace {
 
 constexpr int RowText = 12;
-constexpr Colour Red = RGB(255, 0, 0);
 constexpr Colour Green = RGB(0, 255, 0);
 
 bool IsRelative(const ZephraRecord& record)

@@ -3,6 +3,7 @@
 #include "chart/ChartView.h"
 #include "chart/ColourRamp.h"
 #include "chart/Markers.h"
+#include "chart/Panel.h"
 #include "control/Control.h"
 #include "control/ViewText.h"
 #include "formats/FormatValue.h"
@@ -65,7 +66,7 @@ void DrawFrameTexts(Control& control)
     const ChartSurface& box = control.SpectroBox;
     const auto put = [&](const std::string& text, int x, int y) { DrawTextAt(holder, text, x, y, TextSize); };
     const std::string title = "SPG-" + control.TraceName;
-    put(title, WholeUnits(box.Left + (box.Width - holder.TextWidth(title)) / 2), 4);
+    DrawCentred(holder, title, WholeUnits(box.Left + box.Width / 2), 4, TextSize);
     put("Ref Lvl " + FormatValue(record.RefLevel, "#0.0 dBm"), 2, 24);
     put("RBW " + FormatValue(record.RBWSetting / 1000.0, "#00 kHz"), 200, 24);
     put("VBW " + FormatValue(record.VBWSetting / 1000.0, "#00 kHz"), 400, 24);

@@ -12,7 +12,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour Red = RGB(255, 0, 0);
 constexpr int SettingText = 10, PanelText = 12, TitleText = 24;
 constexpr float LevelText = 48, SmallLevelText = 14;
 

@@ -11,7 +11,6 @@ namespace Traces {
 namespace {
 
 constexpr int FrameLength = 737;
-constexpr int FrameShift = 13;
 constexpr int VppPosition = 643;
 
 constexpr std::string_view UserPatternKey = "User Defined Pattern:";

@@ -17,8 +17,6 @@ namespace Traces {
 
 namespace {
 
-constexpr Colour BarYellow = 65535;
-constexpr Colour BandGround = RGB(255, 255, 200);
 constexpr int TextSize = 10;
 
 /// The scale of histogram and error map: slices to the right; decades, and rows of errors, upwards.
@@ -108,7 +106,7 @@ void DrawSettings(Control& control)
 {
     constexpr int left = 2, right = 275, row1 = 406, row2 = 424, row3 = 442, row4 = 460;
     const E1T1Record& record = control.E1T1;
-    control.E1T1Holder.FillBox(0, 402, 600, 480, BandGround);
+    control.E1T1Holder.FillBox(0, 402, 600, 480, PaleYellow);
     control.E1T1Holder.Line(0, 402, 600, 402, Black);
     control.E1T1Holder.ForeColor = Black;
     Put(control, "Framing = " + record.FramingMode, left, row1);
@@ -129,7 +127,7 @@ void DrawFlags(ChartSurface& map, std::uint8_t flags, float left, float right)
     float top = Decades;
     for (const ErrorRow& row : ErrorRows) {
         if ((flags & row.Flag) != 0)
-            map.FillBox(left, top - 1, right, top, BarYellow);
+            map.FillBox(left, top - 1, right, top, Yellow);
         --top;
     }
 }
@@ -145,7 +143,7 @@ void DrawBars(Control& control)
             CheckCurvePoint(slot, i);
             const float left = slot.X[i] - half, right = slot.X[i] + half;
             if (const float height = DecadeScale(slot.Y[i]); height > 0)
-                box.FillBox(left, 0, right, height, BarYellow);
+                box.FillBox(left, 0, right, height, Yellow);
             if (i < control.E1T1.Slices.size())
                 DrawFlags(control.ErrorsBox, control.E1T1.Slices[i].SliceFlags, left, right);
         }

@@ -11,7 +11,6 @@ namespace Traces {
 
 namespace {
 
-constexpr int FrameShift = 13;
 constexpr int FirstPointPosition = 315;
 
 /// The frame of the record route leaves out the bytes that the common head has more of.

@@ -34,8 +34,6 @@ namespace Traces {
 
 namespace {
 
-constexpr QSize DesignSize(550, 480);
-
 QColor ScreenColour(Colour colour)
 {
     return {colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF};
@@ -185,11 +183,9 @@ unsigned PlotWidget::PaintedPictures() const
 
 QSize PlotWidget::sizeHint() const
 {
-    constexpr int widthWithPane = 911;
-    constexpr QSize allViews(1500, 820);
     if (IsLaidOutWide(plot->Instance()))
-        return allViews;
-    return ShowParams() ? QSize(widthWithPane, DesignSize.height()) : DesignSize;
+        return {WideWidth, WideHeight};
+    return {ShowParams() ? WidthWithPane : DesignWidth, DesignHeight};
 }
 
 bool PlotWidget::Print()
