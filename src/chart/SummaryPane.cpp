@@ -110,6 +110,20 @@ void PaneTable(ChartSurface& surface, const PaneGrid& grid)
     RowRules(surface, grid, right);
 }
 
+void PaneRows(ChartSurface& pane, PaneGrid grid, std::span<const PaneRow> rows, const PaneRowTexts& texts)
+{
+    constexpr int labelInset = 4;
+    grid.Rows = static_cast<int>(rows.size());
+    PaneTable(pane, grid);
+    int y = grid.Top + texts.Inset;
+    for (const PaneRow& row : rows) {
+        PanePrint(pane, row.Label, y, grid.Left + labelInset, texts.Size, PaneAlign::Start, 0,
+                  texts.LabelColour);
+        PanePrint(pane, row.Value, y, texts.ValueRight, texts.Size, PaneAlign::End, texts.ValueRoom);
+        y += grid.RowHeight;
+    }
+}
+
 void PaneTableWide(ChartSurface& surface, const PaneGrid& grid, int valueWidth)
 {
     PaneTable(surface, grid);

@@ -4,6 +4,7 @@
 
 #include "control/ChartSurface.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -48,7 +49,24 @@ struct PaneGrid {
 /// The bands of a table of two columns, labels and values, and a black rule between its rows.
 void PaneTable(ChartSurface& surface, const PaneGrid& grid);
 
-/// The same with a third column of values, `valueWidth` to the right of the second one's start.
+/// What stands in a row, and how: labels 4 units into the table, values ending at `ValueRight`.
+struct PaneRow {
+    std::string_view Label;
+    std::string Value;
+};
+struct PaneRowTexts {
+    float Size = 11; ///< points
+    int Inset = 4;   ///< below the row's rule
+    int ValueRight = 336;
+    int ValueRoom = 150; ///< a wider value is printed smaller
+    Colour LabelColour = NoColour;
+};
+
+/// A table with its rows' texts.
+void PaneRows(ChartSurface& pane, PaneGrid grid, std::span<const PaneRow> rows,
+              const PaneRowTexts& texts = {});
+
+/// The same as PaneTable with a third column of values, `valueWidth` to the right of the second one's start.
 void PaneTableWide(ChartSurface& surface, const PaneGrid& grid, int valueWidth);
 
 /// The position as the panes show it; "N/A" three times when there is none.

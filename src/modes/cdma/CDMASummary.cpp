@@ -94,14 +94,12 @@ std::vector<ScanRow> PilotRows(const CDMARecord& record, bool newer, bool measur
 
 void DrawResults(ChartSurface& pane, int top, const CDMARecord& record)
 {
-    constexpr int rowHeight = 20;
-    constexpr int labelWidth = 150;
     const bool measured = (record.StatusByte3 & CDMAOption::OverTheAir) != 0;
     const bool spectrum = (record.StatusByte3 & CDMAOption::RF) != 0;
     const auto text = [](float value, const char* mask, bool known = true) {
         return known ? FormatValue(value, mask) : std::string("N/A");
     };
-    const std::pair<const char*, std::string> rows[] = {
+    const PaneRow rows[] = {
         {"Ec/lo", text(record.PilotScanPower[0], "#0.00 dB")},
         {"Rho", text(record.MeasuredRho, "#0.000")},
         {"PN Search", record.SearchMode},
@@ -113,17 +111,8 @@ void DrawResults(ChartSurface& pane, int top, const CDMARecord& record)
         {"Multipath Power", text(record.MultipathPower, "#0.00 dB", measured)},
         {"Meas Occ BW", text(record.OccupiedBandwidth, "#0 kHz", spectrum)},
     };
-    PaneTable(pane, {.Rows = static_cast<int>(std::size(rows)),
-                     .Left = Left,
-                     .Top = top,
-                     .RowHeight = rowHeight,
-                     .LabelWidth = labelWidth});
-    int y = top + 2;
-    for (const auto& [label, value] : rows) {
-        PanePrint(pane, label, y, 14, 10, PaneAlign::Start, 0, Black);
-        PanePrint(pane, value, y, 336, 10, PaneAlign::End, 170);
-        y += rowHeight;
-    }
+    PaneRows(pane, {.Left = Left, .Top = top, .RowHeight = 20, .LabelWidth = 150}, rows,
+             {.Size = 10, .Inset = 2, .ValueRoom = 170, .LabelColour = Black});
 }
 
 } // namespace

@@ -29,14 +29,6 @@ bool Has(const EvDORecord& record, std::uint8_t bit)
     return (record.StatusByte1 & bit) != 0;
 }
 
-/// A level with the offset, in the record's units; "N/A" for a slot that wasn't captured.
-std::string LevelText(const EvDORecord& record, float level)
-{
-    return level == EvDONotCaptured
-               ? "N/A"
-               : DbmToWattsRounded(static_cast<double>(level + record.PowerOffset), record.DisplayUnits != 0);
-}
-
 /// The size at which a value fits its cell: watts with their unit are longer than decibels.
 int LevelSize(const EvDORecord& record)
 {
@@ -74,7 +66,7 @@ void DrawSpectrumResults(ChartSurface& holder, const EvDORecord& record)
                                      : "N/A",
                         LargeSize};
     const Result results[] = {
-        {6, 364, "Pilot/MAC Pwr" + UnitOf(record), LevelText(record, record.PilotMACPowerAverage),
+        {6, 364, "Pilot/MAC Pwr" + UnitOf(record), EvDOLevelText(record, record.PilotMACPowerAverage),
          LevelSize(record)},
         {6, 424, "Ch Power (rms)", FormatValue(record.ChannelPowerRMS + record.PowerOffset, "#0.00"),
          LargeSize},
@@ -94,8 +86,8 @@ void DrawDataResults(ChartSurface& holder, const EvDORecord& record)
     const auto [lowQ, highQ] = std::ranges::minmax(record.CDPDataQ);
     const auto code = [&](float value) { return idle ? std::string("Idle") : FormatValue(value, "#0.00"); };
     const Result results[] = {
-        {6, 364, "Active Data" + UnitOf(record), idle ? "Idle" : LevelText(record, record.DataPowerActive),
-         LevelSize(record)},
+        {6, 364, "Active Data" + UnitOf(record),
+         idle ? "Idle" : EvDOLevelText(record, record.DataPowerActive), LevelSize(record)},
         {6, 424, "Data Code Max(dB)", code(std::max(highI, highQ)), LargeSize},
         {190, 364, "Rho Overall 2", FormatValue(record.RhoOverall2, "#0.000"), LargeSize},
         {190, 424, "Data Code Min(dB)", code(std::min(lowI, lowQ)), LargeSize},
@@ -109,7 +101,7 @@ void DrawDataResults(ChartSurface& holder, const EvDORecord& record)
 void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
 {
     const Result results[] = {
-        {6, 364, "Pilot/MAC Power" + UnitOf(record), LevelText(record, record.PilotMACPowerAverage),
+        {6, 364, "Pilot/MAC Power" + UnitOf(record), EvDOLevelText(record, record.PilotMACPowerAverage),
          LevelSize(record)},
         {6, 424, "Noise Floor (dB)", FormatValue(record.NoiseFloor, "#0.0"), LargeSize},
         {190, 364, "Rho Overall 1", FormatValue(record.RhoOverall1, "#0.000"), LargeSize},
@@ -129,7 +121,7 @@ void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
 void DrawScanResults(ChartSurface& holder, const EvDORecord& record)
 {
     const Result results[] = {
-        {6, 364, "Pilot/MAC Power" + UnitOf(record), LevelText(record, record.PilotMACPowerAverage),
+        {6, 364, "Pilot/MAC Power" + UnitOf(record), EvDOLevelText(record, record.PilotMACPowerAverage),
          LevelSize(record)},
         {6, 424, "Pilot Dominance (dB)", FormatValue(record.PilotDominance, "#0.00"), LargeSize},
         {190, 364, "Noise Floor (dB)", FormatValue(record.NoiseFloor, "#0.0"), LargeSize},
@@ -211,46 +203,14 @@ ScanRow PilotRow(const EvDORecord& record, std::size_t i, bool newer)
             record.PilotScanPower[i], valid};
 }
 
-void AddRow(std::vector<std::pair<std::string, std::string>>& rows, const char* label, std::string value)
-{
-    rows.emplace_back(label, std::move(value));
-}
-
-std::vector<std::pair<std::string, std::string>> SummaryRows(const Control& control)
-{
-    const EvDORecord& record = control.EvDO;
-    const auto level = [&](float value) {
-        return LevelText(record, value) +
-               (record.DisplayUnits == 0 && value != EvDONotCaptured ? " dBm" : "");
-    };
-    const PanePosition position = PanePositionTexts(EvDOPosition(control));
-    std::vector<std::pair<std::string, std::string>> rows;
-    AddRow(rows, "Pilot/MAC Average", level(record.PilotMACPowerAverage));
-    AddRow(rows, "Pilot/MAC Active", level(record.PilotMACPowerActive));
-    AddRow(rows, "Pilot/MAC Idle", level(record.PilotMACPowerIdle));
-    AddRow(rows, "Pilot Average", level(record.PilotPowerAverage));
-    AddRow(rows, "Pilot Active", level(record.PilotPowerActive));
-    AddRow(rows, "Pilot Idle", level(record.PilotPowerIdle));
-    AddRow(rows, "Data Average", level(record.DataPowerAverage));
-    AddRow(rows, "Data Active", level(record.DataPowerActive));
-    AddRow(rows, "Data Idle", level(record.DataPowerIdle));
-    AddRow(rows, "Rho Pilot", FormatValue(record.RhoPilot, "#0.000"));
-    AddRow(rows, "Rho Overall 1", FormatValue(record.RhoOverall1, "#0.000"));
-    AddRow(rows, "Rho Overall 2", FormatValue(record.RhoOverall2, "#0.000"));
-    AddRow(rows, "EVM", FormatValue(record.EVM, "#0.00"));
-    AddRow(rows, "Freq Error", FormatValue(record.FrequencyError, "#0 Hz"));
-    AddRow(rows, "Carrier FT", FormatValue(record.CarrierFeedthrough, "#0.00 dB"));
-    AddRow(rows, "Noise Floor", FormatValue(record.NoiseFloor, "#0.00 dB"));
-    AddRow(rows, "Meas Occ BW", FormatValue(record.OccupiedBandwidth, "#0 kHz"));
-    AddRow(rows, "Idle Activity", FormatValue(record.IdleActivity, "#0.0") + " %");
-    AddRow(rows, "Active Activity", FormatValue(record.ActiveActivity, "#0.0") + " %");
-    AddRow(rows, "PN Search", TriggerMode.Text(record.SearchMode));
-    AddRow(rows, "GPS-Latitude:", position.Latitude);
-    AddRow(rows, "GPS-Longitude:", position.Longitude);
-    return rows;
-}
-
 } // namespace
+
+std::string EvDOLevelText(const EvDORecord& record, float level)
+{
+    return level == EvDONotCaptured
+               ? "N/A"
+               : DbmToWattsRounded(static_cast<double>(level + record.PowerOffset), record.DisplayUnits != 0);
+}
 
 void DrawEvDOPanels(Control& control)
 {
@@ -294,26 +254,6 @@ void DrawEvDOScan(Control& control)
     if (untriggered)
         paths.assign(3, ScanRow{"N/A", "", "N/A", 0, false});
     DrawTable(holder, {210, 242, 30, 16, "Tau", "Multipath", false}, paths);
-}
-
-void DrawEvDOSummary(Control& control)
-{
-    constexpr int rowHeight = 21;
-    constexpr int labelWidth = 160;
-    const auto rows = SummaryRows(control);
-    ChartSurface& pane = OpenPane(control);
-    PaneTable(pane, {.Rows = static_cast<int>(rows.size()),
-                     .Left = 10,
-                     .Top = 8,
-                     .RowHeight = rowHeight,
-                     .LabelWidth = labelWidth});
-    int y = 10;
-    for (const auto& [label, value] : rows) {
-        PanePrint(pane, label, y, 14, 10, PaneAlign::Start, 0, Black);
-        PanePrint(pane, value, y, 336, 10, PaneAlign::End, 160);
-        y += rowHeight;
-    }
-    ClosePane(pane);
 }
 
 } // namespace Traces

@@ -11,6 +11,7 @@
 #include "modes/cdma/CodeChart.h"
 #include "modes/evdo/EvDOChart.h"
 #include "modes/evdo/EvDOPanels.h"
+#include "modes/evdo/EvDOSummary.h"
 #include "modes/evdo/EvDOTrace.h"
 
 #include <cmath>

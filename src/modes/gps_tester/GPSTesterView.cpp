@@ -63,12 +63,11 @@ void DrawFoot(Control& control, std::size_t shown)
 
 void DrawSummary(Control& control)
 {
-    constexpr int left = 10, top = 70, rowHeight = 28, labelWidth = 170, valueRight = 336, valueRoom = 150;
-    constexpr float titleSize = 18, rowSize = 11;
+    constexpr float titleSize = 18;
     const GPSTesterRecord& record = control.GPSTester;
     const PanePosition position =
         PanePositionTexts({record.GpsLatitude, record.GpsLongitude, record.GpsAltitude, std::nullopt});
-    const std::pair<const char*, std::string> rows[] = {
+    const PaneRow rows[] = {
         {"GPS Pass/Fail:", Passed(record) ? "Pass" : "Fail"},
         {"UTC Time: ", record.UtcTime},
         {"Latitude: ", position.Latitude},
@@ -81,17 +80,7 @@ void DrawSummary(Control& control)
     };
     ChartSurface& pane = OpenPane(control);
     PanePrint(pane, "GPS Tester", 30, 115, titleSize);
-    PaneTable(pane, {.Rows = static_cast<int>(std::size(rows)),
-                     .Left = left,
-                     .Top = top,
-                     .RowHeight = rowHeight,
-                     .LabelWidth = labelWidth});
-    int y = top + 4;
-    for (const auto& [label, value] : rows) {
-        PanePrint(pane, label, y, left + 4, rowSize);
-        PanePrint(pane, value, y, valueRight, rowSize, PaneAlign::End, valueRoom);
-        y += rowHeight;
-    }
+    PaneRows(pane, {.Left = 10, .Top = 70, .RowHeight = 28, .LabelWidth = 170}, rows);
     ClosePane(pane);
 }
 

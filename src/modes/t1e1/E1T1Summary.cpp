@@ -16,39 +16,11 @@ namespace Traces {
 namespace {
 
 constexpr float TextSize = 11;
-constexpr int LabelLeft = 14;
 constexpr int PanelLeft = 10, LabelWidth = 160;
-
-struct PaneRow {
-    std::string_view Label;
-    std::string Value;
-};
 
 std::string Count(std::int32_t value)
 {
     return FormatValue(value, "#0");
-}
-
-void PrintValue(ChartSurface& pane, const std::string& value, int y, int right)
-{
-    constexpr int room = 150;
-    PanePrint(pane, value, y, right, TextSize, PaneAlign::End, room);
-}
-
-/// A banded table with its texts, `inset` below the rows' rules.
-template <std::size_t Rows>
-void DrawTable(ChartSurface& pane, const std::array<PaneRow, Rows>& rows, int top, int rowHeight, int inset,
-               int valueRight)
-{
-    PaneTable(
-        pane,
-        {.Rows = Rows, .Left = PanelLeft, .Top = top, .RowHeight = rowHeight, .LabelWidth = LabelWidth});
-    int y = top + inset;
-    for (const PaneRow& row : rows) {
-        PanePrint(pane, row.Label, y, LabelLeft, TextSize);
-        PrintValue(pane, row.Value, y, valueRight);
-        y += rowHeight;
-    }
 }
 
 /// The hour and the rest of "H:MM:SS", of which the seconds may be missing.
@@ -101,36 +73,32 @@ std::string LoopWords(const E1T1Record& record)
 
 void E1T1Summary(Control& control)
 {
-    constexpr int countersTop = 10, countersRow = 20, countersRight = 336, crcTop = 92;
-    constexpr int settingsTop = 248, settingsRow = 28, settingsRight = 338;
+    constexpr int countersRight = 336, crcTop = 92;
     const E1T1Record& record = control.E1T1;
     const bool isE1 = control.Header.Mode == TraceMode::E1;
     ChartSurface& pane = OpenPane(control);
-    DrawTable(pane,
-              std::to_array<PaneRow>({{"Frame Bits", Count(record.FrameErrorCount)},
-                                      {"Bit Errors", Count(record.BitErrors)},
-                                      {"BER", record.BitErrorRate},
-                                      {"BPV", Count(record.BpvErrorCount)},
-                                      {"CRC", isE1 ? "" : Count(record.CrcErrorCount)},
-                                      {"Errored Sec", Count(record.ErroredSeconds)},
-                                      {"EFS", SecondsLeft(record, record.ErroredSeconds)},
-                                      {"SES", Count(record.SeverelyErroredSeconds)},
-                                      {"UAS", Count(record.UnavailableSeconds)},
-                                      {"AS", SecondsLeft(record, record.UnavailableSeconds)},
-                                      {"DGRM", Count(record.DegradedMinutes)}}),
-              countersTop, countersRow, 2, countersRight);
+    const PaneRow counters[] = {{"Frame Bits", Count(record.FrameErrorCount)},
+                                {"Bit Errors", Count(record.BitErrors)},
+                                {"BER", record.BitErrorRate},
+                                {"BPV", Count(record.BpvErrorCount)},
+                                {"CRC", isE1 ? "" : Count(record.CrcErrorCount)},
+                                {"Errored Sec", Count(record.ErroredSeconds)},
+                                {"EFS", SecondsLeft(record, record.ErroredSeconds)},
+                                {"SES", Count(record.SeverelyErroredSeconds)},
+                                {"UAS", Count(record.UnavailableSeconds)},
+                                {"AS", SecondsLeft(record, record.UnavailableSeconds)},
+                                {"DGRM", Count(record.DegradedMinutes)}};
+    PaneRows(pane, {.Left = PanelLeft, .Top = 10, .RowHeight = 20, .LabelWidth = LabelWidth}, counters,
+             {.Inset = 2});
     if (isE1)
         PrintCrcRow(pane, record, crcTop, countersRight);
-    DrawTable(pane,
-              std::to_array<PaneRow>({{"Framing", record.FramingMode},
-                                      {"Tx Level", isE1 ? "N/A" : record.TxLevel},
-                                      {"Rx Config", record.ReceiveInput},
-                                      {"Clock Src", record.ClockSource},
-                                      {"Pattern", record.Pattern},
-                                      {"Error Ins", record.ErrorInsertType},
-                                      {"Line Code", record.LineCoding},
-                                      {"Loop Code", isE1 ? "N/A" : LoopWords(record)}}),
-              settingsTop, settingsRow, 4, settingsRight);
+    const PaneRow settings[] = {
+        {"Framing", record.FramingMode},    {"Tx Level", isE1 ? "N/A" : record.TxLevel},
+        {"Rx Config", record.ReceiveInput}, {"Clock Src", record.ClockSource},
+        {"Pattern", record.Pattern},        {"Error Ins", record.ErrorInsertType},
+        {"Line Code", record.LineCoding},   {"Loop Code", isE1 ? "N/A" : LoopWords(record)}};
+    PaneRows(pane, {.Left = PanelLeft, .Top = 248, .RowHeight = 28, .LabelWidth = LabelWidth}, settings,
+             {.ValueRight = 338});
     ClosePane(pane);
 }
 
