@@ -1,16 +1,12 @@
 #include "chart/ChartMouse.h"
 #include "control/ChartMenu.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
 #include "control/Input.h"
-#include "control/Plot.h"
 #include "formats/CodeTable.h"
-#include "formats/Files.h"
 #include "formats/HostFault.h"
 #include "modes/cdma/CDMAChart.h"
 #include "modes/cdma/CDMATrace.h"
 #include "support/RawBuilder.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
 #include <gtest/gtest.h>
 
@@ -54,33 +50,9 @@ RawBuilder RawCDMA(const char* version, int points)
     return raw;
 }
 
-class CDMA : public testing::Test {
+class CDMA : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     CDMARecord& record = state.CDMA;
-
-    std::string Saved()
-    {
-        const Testing::TemporaryFolder folder;
-        std::string name = folder / "saved.cdma";
-        plot.Instance().TraceSaved = true;
-        EXPECT_TRUE(plot.SaveTrace(name));
-        return *ReadWholeFile(name);
-    }
-
-    static int Byte(const std::string& frame, int position)
-    {
-        return static_cast<unsigned char>(frame[static_cast<std::size_t>(position - 1)]);
-    }
-    static std::int64_t Number(const std::string& frame, int position, int width)
-    {
-        std::int64_t value = 0;
-        for (int i = 0; i < width; ++i)
-            value = value * 256 + Byte(frame, position + i);
-        return value;
-    }
 };
 
 TEST_F(CDMA, FirmwareChoosesBiasStandardAndLayout)
@@ -240,7 +212,7 @@ TEST_F(CDMA, FramesCarryTheLayoutOfTheLastFirmware)
     const std::string older = plot.GetUpLoadTrace("");
     ASSERT_EQ(older.size(), 1826U);
     EXPECT_EQ(Number(older, 1, 2), 1826);
-    EXPECT_EQ(Byte(older, 3), 144);
+    EXPECT_EQ(Number(older, 3, 1), 144);
     EXPECT_EQ(Number(older, 46, 4), 1'931'250'000);
     EXPECT_EQ(Number(older, 75, 2), 0xFFFF) << "no channel";
     EXPECT_EQ(Number(older, 153, 4), 42'000);
@@ -248,7 +220,7 @@ TEST_F(CDMA, FramesCarryTheLayoutOfTheLastFirmware)
     EXPECT_EQ(Number(older, 211, 4), 324);
     EXPECT_EQ(Number(older, 227, 4), 38'538'600);
     EXPECT_EQ(Number(older, 291, 4), 250'000);
-    EXPECT_EQ(Byte(older, 931 + 8), 8) << "by way of its unknown text";
+    EXPECT_EQ(Number(older, 931 + 8, 1), 8) << "by way of its unknown text";
     EXPECT_EQ(Number(older, 1059 + 2 * 383, 2), 40'383);
     const std::string text = Saved();
 
@@ -259,7 +231,7 @@ TEST_F(CDMA, FramesCarryTheLayoutOfTheLastFirmware)
     EXPECT_EQ(Number(first, 223, 4), 3'325);
     EXPECT_EQ(Number(second, 223, 4), 6'325) << "an upload moves the record's delays on";
     EXPECT_EQ(first.substr(274 - 1, 10), "16:42:07  ");
-    EXPECT_EQ(Byte(first, 284), 4);
+    EXPECT_EQ(Number(first, 284, 1), 4);
     // The file's own firmware doesn't count, and its position isn't carried.
     const std::string loaded = EncodeCDMAText(text);
     EXPECT_EQ(Number(loaded, 205, 2), 1);
@@ -270,26 +242,6 @@ TEST_F(CDMA, FramesCarryTheLayoutOfTheLastFirmware)
     EXPECT_EQ(Number(raw, 46, 4), 1'931'250'000);
     EXPECT_EQ(Number(raw, 205, 2), 1);
     EXPECT_EQ(raw.substr(227 - 1, 64), std::string(64, ' ')) << "cut off at offset 239";
-}
-
-TEST_F(CDMA, HostileTracesNeitherFaultNorReachBeyondTheCodes)
-{
-    for (const int points : {-5, 1, 129, 400, 32767}) {
-        RawBuilder raw = RawCDMA("3.20", 128);
-        raw.Number(55, 2, points);
-        for (int k = 0; k < 6; ++k)
-            raw.Number(73 + k, 1, 200 + k);
-        raw.Number(71, 1, 0xFF);
-        try {
-            plot.ShowTrace(raw.Bytes());
-        } catch (const HostFault& fault) {
-            EXPECT_EQ(fault.Kind, FaultKind::Range);
-        }
-        plot.GetUpLoadTrace("");
-    }
-    const std::string text = RawCDMA("3.20", 64).AsText();
-    for (std::size_t length = 100; length < text.size(); length += 97)
-        plot.DisplayTrace(text.substr(0, length));
 }
 
 } // namespace

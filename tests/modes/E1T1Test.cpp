@@ -1,13 +1,8 @@
 #include "chart/Panel.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
 #include "control/Input.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "support/ExpectFrame.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -17,7 +12,7 @@ using Testing::RawBuilder;
 using Testing::WithChecksum;
 
 constexpr int T1 = 96, E1 = 112;
-constexpr Colour Yellow = 65535, Green = 65280, Red = 255;
+constexpr Colour Green = 65280;
 
 /// A line test in which every field has a value of its own.
 RawBuilder RawLineTest(int mode, int display = 0)
@@ -39,46 +34,16 @@ RawBuilder RawLineTest(int mode, int display = 0)
     return raw.Number(686, 1, 2).Number(687, 1, 33).Number(688, 2, 4).Number(690, 4, 5).Number(694, 4, 66);
 }
 
-class LineTest : public testing::Test {
+class LineTest : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     E1T1Record& record = state.E1T1;
-    const Testing::TemporaryFolder folder;
-
-    std::string Saved()
-    {
-        std::string name = folder / "saved.et1";
-        state.TraceSaved = true;
-        EXPECT_TRUE(plot.SaveTrace(name));
-        return ReadWholeFile(name).value_or("");
-    }
-
-    static std::vector<FillCommand> Fills(const ChartSurface& surface, Colour colour)
-    {
-        std::vector<FillCommand> fills;
-        for (const DrawCommand& command : surface.Picture())
-            if (const auto* fill = std::get_if<FillCommand>(&command); fill != nullptr && fill->Ink == colour)
-                fills.push_back(*fill);
-        return fills;
-    }
-
-    static bool Says(const ChartSurface& surface, std::string_view text)
-    {
-        return std::ranges::any_of(surface.Picture(), [&](const DrawCommand& command) {
-            const auto* words = std::get_if<TextCommand>(&command);
-            return words != nullptr && words->Text == text;
-        });
-    }
 
     std::vector<Colour> Lamps() const
     {
         std::vector<Colour> lamps;
-        for (const DrawCommand& command : state.E1T1Holder.Picture())
-            if (const auto* circle = std::get_if<CircleCommand>(&command);
-                circle != nullptr && circle->Ink != Black)
-                lamps.push_back(circle->Ink);
+        for (const CircleCommand& circle : CommandsOf<CircleCommand>(state.E1T1Holder))
+            if (circle.Ink != Black)
+                lamps.push_back(circle.Ink);
         return lamps;
     }
 };

@@ -1,16 +1,11 @@
 #include "control/ChartMenu.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
 #include "control/Input.h"
-#include "control/Plot.h"
 #include "formats/CodeTable.h"
-#include "formats/Files.h"
 #include "formats/HostFault.h"
 #include "modes/evdo/EvDOTrace.h"
 #include "support/RawBuilder.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -55,30 +50,9 @@ RawBuilder RawEvDO(const char* version, int points)
     return raw;
 }
 
-class EvDO : public testing::Test {
+class EvDO : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     EvDORecord& record = state.EvDO;
-
-    std::string Saved()
-    {
-        const Testing::TemporaryFolder folder;
-        std::string name = folder / "saved.evdo";
-        state.TraceSaved = true;
-        EXPECT_TRUE(plot.SaveTrace(name));
-        return *ReadWholeFile(name);
-    }
-
-    static std::int64_t Number(const std::string& frame, int position, int width)
-    {
-        std::int64_t value = 0;
-        for (int i = 0; i < width; ++i)
-            value =
-                value * 256 + static_cast<unsigned char>(frame[static_cast<std::size_t>(position - 1 + i)]);
-        return value;
-    }
 };
 
 TEST_F(EvDO, FirmwareChoosesTheLayoutAndRotatesThePilots)
@@ -234,16 +208,6 @@ TEST_F(EvDO, SlotsThatWerentCapturedSaySo)
     EXPECT_TRUE(says(state.EvDOHolder, "N/A"));
     RunMenuItem(state, {"menuEvDORFSpecActive"}, false);
     EXPECT_TRUE(says(state.EvDOSubBox, "No Data Captured"));
-}
-
-TEST_F(EvDO, HostileTracesOnlyFaultAsAHostExpects)
-{
-    const std::string text = RawEvDO("3.20", 128).AsText();
-    for (std::size_t length = 100; length < text.size(); length += 131)
-        plot.DisplayTrace(text.substr(0, length));
-    for (const int points : {-1, 0, 63, 30000})
-        EXPECT_TRUE(plot.ShowTrace(RawEvDO("3.20", points).Bytes())) << points;
-    EXPECT_EQ(plot.count(), 64);
 }
 
 } // namespace

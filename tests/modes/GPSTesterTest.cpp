@@ -1,12 +1,7 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "modes/gps_tester/GPSTesterView.h"
 #include "support/RawBuilder.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -40,20 +35,9 @@ RawBuilder RawCheck(const std::vector<Event>& events)
 const std::vector<Event> FourEvents = {
     {1, 1, 80, "102030"}, {2, 7, 81, "102115"}, {1, 0, 82, "102200"}, {2, 0, 83, "102245"}};
 
-class GPSTester : public testing::Test {
+class GPSTester : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     GPSTesterRecord& record = state.GPSTester;
-
-    static bool Says(const ChartSurface& surface, std::string_view text)
-    {
-        return std::ranges::any_of(surface.Picture(), [&](const DrawCommand& command) {
-            const auto* words = std::get_if<TextCommand>(&command);
-            return words != nullptr && words->Text == text;
-        });
-    }
 };
 
 TEST_F(GPSTester, ListsWordsThatShareBytesAndALineAnEvent)
@@ -112,7 +96,6 @@ TEST_F(GPSTester, CountsBeyondTheRoomAreBroughtWithinIt)
 
 TEST_F(GPSTester, AFileBringsBackWhatTheListShows)
 {
-    const Testing::TemporaryFolder folder;
     std::string name = folder / "check";
     ASSERT_TRUE(plot.SaveRawTrace(RawCheck(FourEvents).AsText(), name));
     EXPECT_EQ(name, folder / "check.GPST");

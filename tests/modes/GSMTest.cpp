@@ -1,13 +1,8 @@
 #include "control/ChartMenu.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "support/ExpectFrame.h"
 #include "support/Faults.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -32,40 +27,16 @@ RawBuilder RawBurst(const char* version, int display)
     return raw;
 }
 
-class GSM : public testing::Test {
+class GSM : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     GSMRecord& record = state.GSM;
-    const Testing::TemporaryFolder folder;
 
-    std::string Saved()
-    {
-        std::string name = folder / "saved.gsm";
-        state.TraceSaved = true;
-        EXPECT_TRUE(plot.SaveTrace(name));
-        return ReadWholeFile(name).value_or("");
-    }
-
-    std::vector<std::string> Texts() const
-    {
-        std::vector<std::string> texts;
-        for (const DrawCommand& command : state.GSMHolder.Picture())
-            if (const auto* text = std::get_if<TextCommand>(&command))
-                texts.push_back(text->Text);
-        return texts;
-    }
-
-    bool Says(const char* text) const { return std::ranges::count(Texts(), text) != 0; }
+    bool Says(const char* text) const { return CountText(state.GSMHolder, text) > 0; }
 
     std::vector<LineCommand> MaskLines() const
     {
-        std::vector<LineCommand> lines;
-        for (const DrawCommand& command : state.GSMBox.Picture())
-            if (const auto* line = std::get_if<LineCommand>(&command);
-                line != nullptr && line->Pen.Ink == RGB(160, 200, 255))
-                lines.push_back(*line);
+        std::vector<LineCommand> lines = CommandsOf<LineCommand>(state.GSMBox);
+        std::erase_if(lines, [](const LineCommand& line) { return line.Pen.Ink != RGB(160, 200, 255); });
         return lines;
     }
 };
@@ -172,12 +143,12 @@ TEST_F(GSM, TheBandTellsWhatWasMeasured)
     plot.ShowTrace(
         RawBurst("3.15", 1).Number(114, 1, 1).Number(135, 4, 0).Number(139, 2, -1).Number(59, 4, 0).Bytes());
     EXPECT_TRUE(Says("Cable"));
-    EXPECT_EQ(std::ranges::count(Texts(), "---"), 3)
+    EXPECT_EQ(CountText(state.GSMHolder, "---"), 3)
         << "bandwidth, training sequence, and no centre for the ppm";
     EXPECT_FALSE(Says("Span 500 kHz"));
     record.FreqError = 0;
     plot.RedrawTrace();
-    EXPECT_EQ(std::ranges::count(Texts(), "---"), 3) << "0 of 0 is no number";
+    EXPECT_EQ(CountText(state.GSMHolder, "---"), 3) << "0 of 0 is no number";
 }
 
 TEST_F(GSM, MenuItemsChooseTheCurveAndTheSlotHasItsMask)

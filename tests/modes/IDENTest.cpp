@@ -1,12 +1,7 @@
 #include "control/ChartMenu.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "support/RawBuilder.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace Traces {
@@ -43,20 +38,11 @@ RawBuilder RawAnalysis(int view)
     return raw.Number(3597, 1, 200).Number(3598, 2, 1129);
 }
 
-class IDEN : public testing::Test {
+class IDEN : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     IDENRecord& record = state.IDEN;
 
-    bool Says(std::string_view text) const
-    {
-        return std::ranges::any_of(state.idenHolder.Picture(), [&](const DrawCommand& command) {
-            const auto* words = std::get_if<TextCommand>(&command);
-            return words != nullptr && words->Text == text;
-        });
-    }
+    bool Says(std::string_view text) const { return CountText(state.idenHolder, text) > 0; }
 };
 
 TEST_F(IDEN, ListsFieldsAndCurvesThatRunOnePointOver)
@@ -134,7 +120,6 @@ TEST_F(IDEN, ViewCodesFoldInBandsAndNarrowFieldsKeepWhatTheyHeld)
 
 TEST_F(IDEN, AFileKeepsAllButThePhaseNoise)
 {
-    const Testing::TemporaryFolder folder;
     std::string name = folder / "base";
     ASSERT_TRUE(plot.SaveRawTrace(RawAnalysis(2).AsText(), name));
     EXPECT_EQ(name, folder / "base.IDEN");

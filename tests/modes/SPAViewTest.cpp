@@ -82,15 +82,5 @@ TEST_F(SPAView, TheChartRunsFromTheReferenceLevelToTenDivisionsBelowZeroAndHasMa
     plot.Listen(nullptr);
 }
 
-TEST_F(SPAView, OneFrequencyLeavesTheFrame)
-{
-    RawBuilder raw = Spectrum();
-    raw.Number(61, 4, 925'000'000);
-    ASSERT_TRUE(plot.ShowTrace(raw.Bytes()));
-    EXPECT_TRUE(state.SPABox.Picture().empty());
-    EXPECT_FALSE(state.SPAHolder.Picture().empty());
-    EXPECT_TRUE(state.SPABox.AutoRedraw);
-}
-
 } // namespace
 } // namespace Traces

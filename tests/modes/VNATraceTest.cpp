@@ -136,20 +136,6 @@ TEST_F(VNATrace, DistanceTracesKeepTheMagnitudesOfTheTraceBefore)
     EXPECT_EQ(plot.TraceType(), "SWR");
 }
 
-TEST_F(VNATrace, ShortBuffersReadAsZeroBehindTheirEnd)
-{
-    const std::string whole = RawSweep(0, {1000, 1000}).AsText();
-    for (std::size_t size = 100; size < whole.size(); ++size) {
-        std::string cut = whole.substr(0, size);
-        cut[0] = 0;
-        cut[1] = static_cast<char>(std::min<std::size_t>(size, 100));
-        ASSERT_TRUE(plot.DisplayTrace(cut)) << size;
-        EXPECT_EQ(state.VNA.SingleLimit, -14) << size;
-        EXPECT_EQ(state.VNA.GpsAltitude, size >= 211 ? -667 : 0) << size;
-        EXPECT_EQ(state.VNA.PointPhase[1], size >= 340 ? -117.9F : 0) << size;
-    }
-}
-
 TEST_F(VNATrace, SaveLoadAndSaveGiveTheSameFile)
 {
     const Testing::TemporaryFolder folder;

@@ -57,21 +57,6 @@ protected:
     }
 };
 
-TEST_F(Pictures, MetricsOfTheFontAndTheBuiltInOnesAgree)
-{
-    Font font;
-    for (const bool bold : {false, true}) {
-        font.Bold = bold;
-        for (const char* text :
-             {"Average Cable Loss = 0.35 dB", "??", "WAVE 1/2 @", "F1=824.0MHz", "\xB0\xE9\xDF"}) {
-            const double real = backEnd.Metrics().TextWidth(text, font);
-            EXPECT_NEAR(real, BuiltInMetrics().TextWidth(text, font), real / 100)
-                << text << (bold ? " bold" : "");
-        }
-        EXPECT_NEAR(backEnd.Metrics().TextHeight(font), BuiltInMetrics().TextHeight(font), 0.1);
-    }
-}
-
 TEST_F(Pictures, GridLinesAreCrispAndTheCurveLiesUnderThem)
 {
     const QImage image = Painted();
@@ -115,41 +100,6 @@ TEST_F(Pictures, APixelRatioDrawsTheSamePictureFiner)
     EXPECT_EQ(twice.pixelColor(1080, 40), QColor(0x80, 0x80, 0x80));
     EXPECT_GT(Count(twice, QRect(20, 2 * 80, 1000, 2), QColor(200, 200, 200)), 400);
     EXPECT_TRUE(Painted(1000).isNull()) << "a picture that no device could hold";
-}
-
-TEST_F(Pictures, SymbolLettersAreGreek)
-{
-    state.VNAHolder.AutoRedraw = true;
-    state.VNAHolder.FillBox(0, 0, 550, 40, White);
-    const QImage blank = Painted();
-    state.VNAHolder.Font.Name = "Symbol";
-    DrawTextAt(state.VNAHolder, "m", 10, 10, 10);
-    const QImage greek = Painted();
-    state.VNAHolder.FillBox(0, 0, 550, 40, White);
-    state.VNAHolder.Font.Name = "MS Sans Serif";
-    DrawTextAt(state.VNAHolder, "m", 10, 10, 10);
-    const QImage latin = Painted();
-    EXPECT_NE(greek, blank);
-    EXPECT_NE(greek, latin);
-}
-
-TEST_F(Pictures, FewColouredPicturesKeepThemAndManyColouredOnesStayNear)
-{
-    QImage picture(64, 64, QImage::Format_RGB32);
-    for (int y = 0; y < 64; ++y)
-        for (int x = 0; x < 64; ++x)
-            picture.setPixelColor(x, y, QColor((x / 4) * 16, (y / 4) * 16, 7));
-    const auto decode = [](const std::string& png) {
-        return QImage::fromData(reinterpret_cast<const uchar*>(png.data()), static_cast<int>(png.size()),
-                                "PNG")
-            .convertToFormat(QImage::Format_RGB32);
-    };
-    EXPECT_EQ(decode(PngBytes(picture)), picture) << "256 colours are kept exactly";
-    for (int x = 0; x < 64; ++x)
-        picture.setPixelColor(x, 0, QColor(4 * x, 255 - 2 * x, x));
-    const QImage read = decode(PngBytes(picture));
-    for (int x = 0; x < 64; ++x)
-        EXPECT_EQ(Count(read, QRect(x, 0, 1, 1), picture.pixelColor(x, 0)), 1) << x;
 }
 
 TEST_F(Pictures, APdfIsOnePageWithRealText)
