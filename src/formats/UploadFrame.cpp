@@ -128,6 +128,15 @@ int PutFrameHeadFromRaw(UploadFrame& frame, std::string_view file)
     return byteAt(countPosition) * 256 + byteAt(countPosition + 1);
 }
 
+std::string FrameOfFile(std::string_view file, int length, std::span<const FileStretch> stretches)
+{
+    UploadFrame frame(length);
+    PutFrameHeadFromRaw(frame, file);
+    for (const FileStretch& stretch : stretches)
+        CopyFileBytes(file, frame, stretch.Offset, stretch.Offset - FrameShift, stretch.Count);
+    return frame.Bytes();
+}
+
 void CopyFileBytes(std::string_view file, UploadFrame& frame, int source, int target, int count)
 {
     std::string copied(static_cast<std::size_t>(std::max(count, 0)), '\0');

@@ -6,6 +6,7 @@
 #include "formats/TraceText.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -58,6 +59,13 @@ void PutFrameHeadFromText(UploadFrame& frame, std::uint8_t mode, const TraceText
 
 /// The head of a raw route: the file's own mode, word, date, time, reference and point count. That count.
 int PutFrameHeadFromRaw(UploadFrame& frame, std::string_view file);
+
+/// A raw route's frame: its head, and stretches of the file's bytes, whose offsets count from 1, each
+/// FrameShift lower. What no stretch holds stays blank.
+struct FileStretch {
+    int Offset, Count;
+};
+std::string FrameOfFile(std::string_view file, int length, std::span<const FileStretch> stretches);
 
 /// Copies `count` bytes of a raw file, from a source offset that counts from 1, to a frame position. Bytes
 /// behind the file's end copy as zero.

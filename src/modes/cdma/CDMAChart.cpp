@@ -5,6 +5,7 @@
 #include "formats/FormatValue.h"
 #include "formats/HostFault.h"
 #include "formats/PowerUnits.h"
+#include "modes/cdma/CodeChart.h"
 
 #include <array>
 #include <limits>
@@ -19,18 +20,6 @@ void SetChartLimits(Control& control)
 {
     control.YScaleTop = 0;
     control.YScaleBottom = -50;
-}
-
-void SetBit(std::uint8_t& byte, int bit, bool on)
-{
-    const auto mask = static_cast<std::uint8_t>(1U << bit);
-    byte = static_cast<std::uint8_t>(on ? byte | mask : byte & ~mask);
-}
-
-/// Marker 1 is bit 7 of the status byte, marker 6 bit 2.
-int MarkerBit(std::size_t marker)
-{
-    return 7 - static_cast<int>(marker);
 }
 
 void LayCurve(Control& control)
@@ -108,7 +97,7 @@ void TakeCDMAMarkers(Control& control)
     MarkerSet& markers = control.CDMAMarkers;
     for (std::size_t k = 0; k < MarkerCount; ++k) {
         markers.MarkerIndex[k] = record.MarkerPosition[k];
-        markers.MarkerOn[k] = (record.StatusByte2 >> MarkerBit(k) & 1) != 0;
+        markers.MarkerOn[k] = (record.StatusByte2 & MarkerBit(k)) != 0;
         markers.MarkerText[k] = CDMAMarkerText(control, k);
     }
 }
@@ -118,7 +107,7 @@ std::string CDMAMarkerText(Control& control, std::size_t marker)
     CDMARecord& record = control.CDMA;
     const MarkerSet& markers = control.CDMAMarkers;
     const std::int16_t position = markers.MarkerIndex[marker];
-    SetBit(record.StatusByte2, MarkerBit(marker), markers.MarkerOn[marker]);
+    SetBits(record.StatusByte2, MarkerBit(marker), markers.MarkerOn[marker]);
     // A marker that was dragged to the right on the spectrum stands where no byte can say.
     if (position >= 0 && position <= std::numeric_limits<std::uint8_t>::max())
         record.MarkerPosition[marker] = static_cast<std::uint8_t>(position);

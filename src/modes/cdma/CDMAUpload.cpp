@@ -122,16 +122,9 @@ std::string EncodeCDMAText(std::string_view file)
 
 std::string EncodeCDMARaw(std::string_view file)
 {
-    // Stretches of the file that are carried, by offset and count. The gaps between them stay blank.
-    constexpr struct {
-        int Source, Count;
-    } stretches[] = {{16, 1},   {17, 4},    {21, 10},   {31, 8},    {39, 16},   {55, 39},
-                     {154, 86}, {304, 512}, {816, 128}, {944, 128}, {1072, 768}};
-    UploadFrame frame(FrameLength);
-    frame.Put(1, PutI16(FrameLength));
-    for (const auto& stretch : stretches)
-        CopyFileBytes(file, frame, stretch.Source, stretch.Source - FrameShift, stretch.Count);
-    return frame.Bytes();
+    constexpr FileStretch stretches[] = {{57, 37},   {154, 86},  {304, 512},
+                                         {816, 128}, {944, 128}, {1072, 768}};
+    return FrameOfFile(file, FrameLength, stretches);
 }
 
 } // namespace Traces

@@ -5,12 +5,25 @@
 #include "chart/ChartWindow.h"
 #include "control/ChartSurface.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
 namespace Traces {
 
 struct Control;
+
+/// The bit of a marker in a record's second status byte: marker 1 is bit 7, marker 6 bit 2.
+constexpr unsigned MarkerBit(std::size_t marker)
+{
+    return 1U << (7 - marker);
+}
+
+/// Sets or clears the bits of a mask.
+constexpr void SetBits(std::uint8_t& byte, unsigned mask, bool on)
+{
+    byte = static_cast<std::uint8_t>(on ? byte | mask : byte & ~mask);
+}
 
 /// Scales a chart to a window, a hundredth wider at both sides, and stores the window as the zoom's. False,
 /// with nothing changed, for one without a span.

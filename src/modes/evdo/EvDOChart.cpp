@@ -3,6 +3,7 @@
 #include "control/Control.h"
 #include "formats/CodeTable.h"
 #include "formats/FormatValue.h"
+#include "modes/cdma/CodeChart.h"
 
 #include <algorithm>
 
@@ -11,17 +12,6 @@ namespace Traces {
 namespace {
 
 constexpr std::int16_t CodeView = 0, OverTheAirView = 3, SpectrumView = 4;
-
-void SetBits(std::uint8_t& byte, unsigned mask, bool on)
-{
-    byte = static_cast<std::uint8_t>(on ? byte | mask : byte & ~mask);
-}
-
-/// Marker 1 is bit 7 of the status byte, marker 6 bit 2.
-unsigned MarkerBit(std::size_t marker)
-{
-    return 1U << (7 - marker);
-}
 
 bool IsWord(std::string_view word, std::string_view upper)
 {

@@ -169,16 +169,9 @@ std::string EncodeEvDOText(std::string_view file)
 
 std::string EncodeEvDORaw(std::string_view file)
 {
-    // Stretches of the file that are carried, by offset and count. The gaps between them stay blank.
-    constexpr struct {
-        int Source, Count;
-    } stretches[] = {{16, 1},   {17, 4},    {21, 10},   {31, 8},    {39, 16},   {55, 64},    {154, 133},
-                     {287, 14}, {301, 100}, {401, 320}, {721, 128}, {849, 768}, {1617, 768}, {2385, 768}};
-    UploadFrame frame(FrameLength);
-    frame.Put(1, PutI16(FrameLength));
-    for (const auto& stretch : stretches)
-        CopyFileBytes(file, frame, stretch.Source, stretch.Source - FrameShift, stretch.Count);
-    return frame.Bytes();
+    constexpr FileStretch stretches[] = {{57, 62},   {154, 133}, {287, 14},   {301, 100}, {401, 320},
+                                         {721, 128}, {849, 768}, {1617, 768}, {2385, 768}};
+    return FrameOfFile(file, FrameLength, stretches);
 }
 
 } // namespace Traces

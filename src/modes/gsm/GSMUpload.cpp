@@ -81,16 +81,8 @@ std::string EncodeGSMText(std::string_view file)
 
 std::string EncodeGSMRaw(std::string_view file)
 {
-    // Stretches of the file that are carried, by offset and count. The gaps between them stay blank.
-    constexpr struct {
-        int Source, Count;
-    } stretches[] = {{16, 1},  {17, 4},   {21, 10},   {31, 8},    {39, 16},   {55, 2},
-                     {57, 30}, {127, 14}, {157, 802}, {959, 802}, {1761, 802}};
-    UploadFrame frame(FrameLength);
-    frame.Put(1, PutI16(FrameLength));
-    for (const auto& stretch : stretches)
-        CopyFileBytes(file, frame, stretch.Source, stretch.Source - FrameShift, stretch.Count);
-    return frame.Bytes();
+    constexpr FileStretch stretches[] = {{57, 30}, {127, 14}, {157, 802}, {959, 802}, {1761, 802}};
+    return FrameOfFile(file, FrameLength, stretches);
 }
 
 } // namespace Traces

@@ -54,13 +54,7 @@ std::string EncodePowerMeterText(std::string_view file)
 std::string EncodePowerMeterRaw(std::string_view file)
 {
     UploadFrame frame(FrameLength);
-    frame.Put(1, PutI16(FrameLength));
-    CopyFileBytes(file, frame, 16, 3, 1);
-    CopyFileBytes(file, frame, 17, 4, 4);
-    CopyFileBytes(file, frame, 21, 8, 10);
-    CopyFileBytes(file, frame, 31, 18, 8);
-    CopyFileBytes(file, frame, 39, 26, 16);
-    CopyFileBytes(file, frame, 55, 42, 2);
+    PutFrameHeadFromRaw(frame, file);
     for (const auto& field : PowerMeterFields)
         CopyFileBytes(file, frame, field.Offset, field.Offset - FrameShift,
                       WidthOf(field.Reader, field.Width));

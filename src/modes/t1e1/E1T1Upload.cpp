@@ -107,11 +107,8 @@ std::string EncodeE1T1Text(std::string_view file)
 
 std::string EncodeE1T1Raw(std::string_view file)
 {
-    constexpr int block = 694;
-    UploadFrame frame(FrameLength);
-    PutFrameHeadFromRaw(frame, file);
-    CopyFileBytes(file, frame, 57, 57 - FrameShift, block);
-    return frame.Bytes();
+    constexpr FileStretch stretches[] = {{57, 694}};
+    return FrameOfFile(file, FrameLength, stretches);
 }
 
 } // namespace Traces
