@@ -132,8 +132,7 @@ void CheckShown(Plot& plot)
     Check(!plot.AutoScaleY(), "a new trace has its own limits");
     // A code measurement's curve is that of the chart it shows.
     const bool codes = row->Mode == TraceMode::CDMA || row->Mode == TraceMode::EvDO;
-    Check(row->FillCurve == nullptr || codes || plot.count() == PointsOf(state),
-          "the curve has all points");
+    Check(row->FillCurve == nullptr || codes || plot.count() == PointsOf(state), "the curve has all points");
     const auto lines = plot.Parameters();
     plot.TraceInfo();
     Check(plot.Parameters() == lines, "a report leaves the list alone");

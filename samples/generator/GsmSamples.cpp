@@ -112,7 +112,10 @@ double Noisy(double db, double floorDb, SteadyRandom& random)
 {
     const double voltage = std::pow(10, db / 20);
     const double noise = std::pow(10, (floorDb - 4) / 20);
-    return 20 * std::log10(std::abs(Complex(voltage + noise * random.Gauss(), noise * random.Gauss())));
+    // One after the other: the order in which a call's arguments are made is the compiler's.
+    const double inPhase = voltage + noise * random.Gauss();
+    const double quadrature = noise * random.Gauss();
+    return 20 * std::log10(std::abs(Complex(inPhase, quadrature)));
 }
 
 std::vector<double> SlotDb(const Burst& burst, SteadyRandom& random)

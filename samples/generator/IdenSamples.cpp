@@ -69,8 +69,10 @@ std::vector<double> Constellation(const Settings& settings, SteadyRandom& random
     const auto step = [&] { return 2 * std::floor(4 * random.Uniform()) - 3; };
     const double noise = settings.NoiseShare * std::sqrt(10.0) / std::sqrt(2.0);
     std::vector<double> values;
-    for (std::size_t i = 0; i < 2 * Pairs; ++i)
-        values.push_back(unit * (step() + noise * random.Gauss()));
+    for (std::size_t i = 0; i < 2 * Pairs; ++i) {
+        const double place = step();
+        values.push_back(unit * (place + noise * random.Gauss()));
+    }
     return values;
 }
 

@@ -56,12 +56,13 @@ void DrawSpectrumResults(ChartSurface& holder, const CDMARecord& record)
 {
     constexpr int size = 24;
     const float power = record.ChannelPowerRMS + record.PowerOffset;
-    const float ppm = record.FrequencyError / record.CenterFrequency;
+    const bool centred = record.CenterFrequency != 0;
+    const float ppm = centred ? record.FrequencyError / record.CenterFrequency : 0;
     const Result results[] = {
         {6, 364, "Ch Power (dBm)", ValueText(power), size},
         {6, 424, "Ch Power (rms)", CDMALevelWattsText(static_cast<double>(power)), size},
         {190, 364, "Freq Error (Hz)", ValueText(record.FrequencyError, "#0"), size},
-        {190, 424, "Freq Error (ppm)", record.CenterFrequency == 0 ? "---" : ValueText(ppm), size},
+        {190, 424, "Freq Error (ppm)", centred ? ValueText(ppm) : "---", size},
         {372, 364, "Meas Occ Bw (kHz)", ValueText(record.OccupiedBandwidth, "#0"), size},
         {372, 424, "Noise Floor (dB)", ValueText(record.NoiseFloor), size},
     };

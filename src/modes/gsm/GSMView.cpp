@@ -38,13 +38,14 @@ void DrawFrameTexts(Control& control)
 void DrawBand(ChartSurface& holder, const GSMRecord& record)
 {
     constexpr int size = 30;
-    const float ppm = record.FreqError / record.CenterFrequency;
+    const bool centred = record.CenterFrequency != 0;
+    const float ppm = centred ? record.FreqError / record.CenterFrequency : 0;
     const auto known = [](bool measured, const std::string& text) { return measured ? text : "---"; };
     const Result results[] = {
         {6, 364, "Ch Pwr (dBm)", FormatValue(record.ChannelPower, "#0.00"), size},
         {6, 424, "Burst Power (dBm)", FormatValue(record.BurstPower, "#0.00"), size},
         {190, 364, "Freq Error (Hz)", FormatValue(record.FreqError, "#0"), size},
-        {190, 424, "Freq Error (ppm)", known(record.CenterFrequency != 0, FormatValue(ppm, "#0.00")), size},
+        {190, 424, "Freq Error (ppm)", known(centred, FormatValue(ppm, "#0.00")), size},
         {372, 364, "Meas Occ BW (kHz)",
          known(record.OccupiedBandwidth != 0, FormatValue(record.OccupiedBandwidth, "#0.0")), size},
         {372, 424, "TSC",
