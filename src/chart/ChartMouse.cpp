@@ -37,7 +37,7 @@ MarkerSet* MarkersOf(Control& control, const ChartBox& chart)
     return chart.Markers != nullptr ? &(control.*chart.Markers) : nullptr;
 }
 
-/// The first marker that is on and within 3 pixels of a place.
+/// The first marker that the box shows within 3 pixels of a place.
 std::optional<std::int16_t> MarkerNear(const Control& control, const ChartBox& chart, float x)
 {
     constexpr float reach = 3;
@@ -46,8 +46,12 @@ std::optional<std::int16_t> MarkerNear(const Control& control, const ChartBox& c
     const ChartSurface& box = control.*chart.Box;
     const MarkerSet& markers = control.*chart.Markers;
     const TraceSlot& slot = control.TraceSlots[0];
+    const ModeRow* row = CurrentRow(control);
+    const auto standsIn = row != nullptr ? row->MarkerStandsIn : nullptr;
     for (std::size_t i = 0; i < MarkerCount; ++i) {
         const auto point = static_cast<std::size_t>(markers.MarkerIndex[i]);
+        if (standsIn != nullptr && !standsIn(control, box, i))
+            continue;
         if (!markers.MarkerOn[i] || markers.MarkerIndex[i] < 0 || point >= slot.X.size())
             continue;
         if (std::abs((slot.X[point] - x) * box.Width / box.ScaleWidth) < reach)

@@ -48,6 +48,9 @@ struct ModeRow {
     /// marker back into its record here.
     std::string (*MarkerText)(Control& control, std::size_t marker) = nullptr;
 
+    /// Whether a box shows a marker that is on; null where every chart shows them all.
+    bool (*MarkerStandsIn)(const Control& control, const ChartSurface& box, std::size_t marker) = nullptr;
+
     /// The family's own items of the chart menu.
     std::span<const FamilyMenuItem> MenuItems = {};
 

@@ -234,6 +234,7 @@ constexpr ModeRow DataOptimized = {
     .Holder = &ChildControls::EvDOHolder,
     .Markers = &Control::EvDOMarkers,
     .MarkerText = EvDOMarkerText,
+    .MarkerStandsIn = EvDOMarkerStandsIn,
     .MenuItems = EvDOMenuItems,
     .Decode = DecodeEvDOTraceByVersion,
     .DecodeToSave = DecodeEvDOTrace,

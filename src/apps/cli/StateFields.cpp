@@ -77,6 +77,8 @@ constexpr StateField Fields[] = {
     {"CDMAIs128",           Of<&Control::CDMAIs128>},
     {"ChartHasMarkers",     Of<&Control::ChartHasMarkers>},
     {"EvDOViewMode",        Of<&Control::EvDOViewMode>},
+    {"EvDOIs128",           Of<&Control::EvDOIs128>},
+    {"EvDOChartHasMarkers", Of<&Control::EvDOChartHasMarkers>},
     {"ZoomActive",          Of<&Control::ZoomActive>},
     {"ZoomX1",              Of<&Control::ZoomX1>},
     {"ZoomX2",              Of<&Control::ZoomX2>},

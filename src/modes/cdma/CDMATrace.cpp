@@ -126,10 +126,11 @@ void LoadKeys(const TraceText& text, CDMARecord& record, const std::array<Field<
         if (field.Key == "Signal Status:" || field.Key == "Measurement Status:")
             continue;
         const std::string_view key = CodeLookupKey(field.Key);
-        if (field.Key != "Channel:")
+        const std::string_view value = text.ParamValue(key);
+        if (field.Key != "Channel:" || value.empty())
             LoadLine(text, key, field.Member.Of(record));
-        else if (const auto channel = NumberFromNA(text.ParamValue(key)); channel && text.HasLine(key))
-            record.Channel = *channel;
+        else
+            record.Channel = NumberFromNA(value).value_or(record.Channel);
     }
     LoadLine(text, "RefLelOffset CalStatus", &record.RefLevelOffsetCalStatus);
 }

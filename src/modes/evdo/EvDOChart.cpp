@@ -1,6 +1,7 @@
 #include "modes/evdo/EvDOChart.h"
 
 #include "control/Control.h"
+#include "control/TraceEntry.h"
 #include "formats/CodeTable.h"
 #include "formats/FormatValue.h"
 #include "modes/cdma/CodeChart.h"
@@ -39,6 +40,13 @@ void SelectView(Control& control, std::int16_t view, bool hasMarkers)
     control.EvDOChartHasMarkers = hasMarkers;
 }
 
+/// The record's display type goes with the view, and the parameter list with the record.
+void ShowSelected(Control& control)
+{
+    RebuildParameters(control);
+    RedrawTrace(control);
+}
+
 bool ShowsCodes(const Control& control)
 {
     return control.EvDOViewMode < OverTheAirView;
@@ -48,14 +56,14 @@ template <const char* Word>
 void RunCDP(Control& control)
 {
     SelectEvDOCDP(control, Word);
-    RedrawTrace(control);
+    ShowSelected(control);
 }
 
 template <const char* Word>
 void RunRF(Control& control)
 {
     SelectEvDORF(control, Word);
-    RedrawTrace(control);
+    ShowSelected(control);
 }
 
 constexpr char MAC[] = "MAC", Data[] = "Data", Active[] = "Active", Idle[] = "Idle";
@@ -81,10 +89,12 @@ void SelectEvDORF(Control& control, std::string_view word)
 
 void FillEvDOCurve(Control& control)
 {
-    control.EvDOViewMode = control.EvDO.DisplayType;
-    if (control.EvDOViewMode == SpectrumView)
+    const std::uint8_t view = control.EvDO.DisplayType;
+    if (view == SpectrumView)
         SelectEvDORF(control, {});
-    else if (control.EvDOViewMode != OverTheAirView)
+    else if (view == OverTheAirView)
+        SelectView(control, OverTheAirView, false);
+    else
         SelectEvDOCDP(control, {});
 }
 
@@ -99,6 +109,13 @@ void TakeEvDOMarkers(Control& control)
         markers.MarkerOnAlt[k] = (record.DataMarkers >> k & 1) == 0;
         markers.MarkerText[k] = EvDOMarkerText(control, k);
     }
+}
+
+bool EvDOMarkerStandsIn(const Control& control, const ChartSurface& box, std::size_t marker)
+{
+    const bool ofMAC = (control.EvDO.StatusByte1 & EvDOStatus::MAC) != 0;
+    const ChartSurface& shown = ofMAC ? control.EvDOTopBox : control.EvDOSubBox;
+    return control.EvDOChartHasMarkers && &box == &shown && control.EvDOMarkers.MarkerOnAlt[marker] == ofMAC;
 }
 
 std::string EvDOMarkerText(Control& control, std::size_t marker)
@@ -138,7 +155,7 @@ constinit const std::array<FamilyMenuItem, 5> EvDOMenuItems = {{
     {"menuEvDOOTA",
      [](Control& control) {
          SelectView(control, OverTheAirView, false);
-         RedrawTrace(control);
+         ShowSelected(control);
      },
      [](const Control& control) { return control.EvDOViewMode == OverTheAirView; }, nullptr, "air"},
     {"menuEvDORFSpecIdle", RunRF<Idle>,

@@ -101,7 +101,7 @@ void DrawDataResults(ChartSurface& holder, const EvDORecord& record)
 void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
 {
     const Result results[] = {
-        {6, 364, "Pilot/MAC Power" + UnitOf(record), EvDOLevelText(record, record.PilotMACPowerAverage),
+        {6, 364, "Pilot/MAC Power", EvDOLevelText(record, record.PilotMACPowerAverage),
          LevelSize(record)},
         {6, 424, "Noise Floor (dB)", FormatValue(record.NoiseFloor, "#0.0"), LargeSize},
         {190, 364, "Rho Overall 1", FormatValue(record.RhoOverall1, "#0.000"), LargeSize},
@@ -121,7 +121,7 @@ void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
 void DrawScanResults(ChartSurface& holder, const EvDORecord& record)
 {
     const Result results[] = {
-        {6, 364, "Pilot/MAC Power" + UnitOf(record), EvDOLevelText(record, record.PilotMACPowerAverage),
+        {6, 364, "Pilot/MAC Power", EvDOLevelText(record, record.PilotMACPowerAverage),
          LevelSize(record)},
         {6, 424, "Pilot Dominance (dB)", FormatValue(record.PilotDominance, "#0.00"), LargeSize},
         {190, 364, "Noise Floor (dB)", FormatValue(record.NoiseFloor, "#0.0"), LargeSize},
@@ -193,11 +193,13 @@ ScanRow PilotRow(const EvDORecord& record, std::size_t i, bool newer)
 {
     constexpr std::int16_t noPilot = 999;
     constexpr std::size_t firstDoubtful = 4;
-    if (i >= firstDoubtful && record.PilotScanPN[i] == noPilot)
-        return {"N/A", "N/A", "N/A", 0, false};
-    const bool absent = record.SearchMode == Untriggered;
+    const bool none = i >= firstDoubtful && record.PilotScanPN[i] == noPilot;
     const bool valid = !newer || static_cast<int>(i) < record.NoValidPilotScan;
-    const std::string number = absent ? "N/A" : FormatValue(std::int32_t{record.PilotScanPN[i]}, "#0");
+    if (none && valid)
+        return {"N/A", "N/A", "N/A", 0, false};
+    const std::string number = none || record.SearchMode == Untriggered
+                                   ? "N/A"
+                                   : FormatValue(std::int32_t{record.PilotScanPN[i]}, "#0");
     const std::string delay = newer && valid ? DelayText(record.PilotTau[i]) : "---";
     return {number, delay, valid ? FormatValue(record.PilotScanPower[i], "#0.00") : "---",
             record.PilotScanPower[i], valid};

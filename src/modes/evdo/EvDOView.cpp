@@ -14,6 +14,7 @@
 #include "modes/evdo/EvDOSummary.h"
 #include "modes/evdo/EvDOTrace.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Traces {
@@ -72,7 +73,8 @@ void DrawHead(Control& control)
     ChartSurface& holder = control.EvDOHolder;
     const auto put = [&](const std::string& text, int x, int y) { DrawTextAt(holder, text, x, y, TextSize); };
     const std::string title = Title(control);
-    DrawCentred(holder, title, WholeUnits(WholeChart.Left + WholeChart.Width / 2), 4, TextSize);
+    const ChartSurface& titled = control.GSMBox; // over whose place CDMA's titles stand, too
+    DrawCentred(holder, title, WholeUnits(titled.Left + titled.Width / 2), 4, TextSize);
     put("Std=" + record.SignalStandard, WholeUnits(WholeChart.Left), 20);
     put("Channel=" + NumberOrNA(record.Channel), 400, 20);
     if (record.RefLevelOffsetCalStatus.empty())
@@ -91,14 +93,14 @@ void DrawHead(Control& control)
 }
 
 /// The markers that stand on this box's codes; the others have a box of their own.
-void DrawBoxMarkers(Control& control, ChartSurface& box, bool onMAC)
+void DrawBoxMarkers(Control& control, ChartSurface& box)
 {
     constexpr std::int16_t lastDataCode = EvDORecord::DataCodes - 1;
     MarkerSet shown = control.EvDOMarkers;
     for (std::size_t k = 0; k < MarkerCount; ++k) {
         if (!shown.MarkerOnAlt[k])
             shown.MarkerIndex[k] = std::min(shown.MarkerIndex[k], lastDataCode);
-        shown.MarkerOn[k] = shown.MarkerOn[k] && shown.MarkerOnAlt[k] == onMAC;
+        shown.MarkerOn[k] = shown.MarkerOn[k] && EvDOMarkerStandsIn(control, box, k);
     }
     DrawMarkerLines(control, box, shown);
     control.EvDOMarkers.MarkerIndex = shown.MarkerIndex;
@@ -122,18 +124,17 @@ void DrawMACCodes(Control& control)
     }
     DrawLevelLines(control, box, window);
     if (control.EvDOChartHasMarkers)
-        DrawBoxMarkers(control, box, true);
+        DrawBoxMarkers(control, box);
 }
 
 void DrawDataChart(Control& control, ChartSurface& box, std::string_view head,
-                   const std::array<float, EvDORecord::DataCodes>& powers)
+                   const std::array<float, EvDORecord::DataCodes>& powers, const ChartWindow& window)
 {
     constexpr int headSize = 16;
     constexpr float half = 0.4F;
     ChartSurface& holder = control.EvDOHolder;
     // The heads stand at the charts' right ends: the standard and the channel have the left ones.
     DrawTextAt(holder, head, WholeUnits(box.Left + box.Width) - 14, 16, headSize, false, Black);
-    ChartWindow window = {-0.5F, EvDORecord::DataCodes - 0.5F, control.YScaleBottom, control.YScaleTop};
     if (control.EvDO.DataPowerActive == EvDONotCaptured)
         return DrawCentredInChart(box, "No Data Captured", 45, headSize);
     box.Scale(window.Xmin, window.Ymax, window.Xmax, window.Ymin);
@@ -143,16 +144,32 @@ void DrawDataChart(Control& control, ChartSurface& box, std::string_view head,
     DrawLevelLines(control, box, window);
 }
 
+/// The codes, and one range of levels for both charts, so that their bars can be compared.
+ChartWindow DataWindow(const Control& control)
+{
+    const auto [lowI, highI] = std::ranges::minmax(control.EvDO.CDPDataI);
+    const auto [lowQ, highQ] = std::ranges::minmax(control.EvDO.CDPDataQ);
+    float low = std::min(lowI, lowQ), high = std::max(highI, highQ), step = 0;
+    if (control.AutoScaleY && low < high) {
+        NiceRange(low, high, step, true);
+    } else {
+        low = control.YScaleBottom;
+        high = control.YScaleTop;
+    }
+    return {-0.5F, EvDORecord::DataCodes - 0.5F, low, high};
+}
+
 void DrawDataCodes(Control& control)
 {
     ChartSurface& first = control.EvDOTopBox;
     ChartSurface& second = control.EvDOSubBox;
     Place(first, ChartOfI);
     Place(second, ChartOfQ);
-    DrawDataChart(control, first, "I", control.EvDO.CDPDataI);
-    DrawDataChart(control, second, "Q", control.EvDO.CDPDataQ);
+    const ChartWindow window = DataWindow(control);
+    DrawDataChart(control, first, "I", control.EvDO.CDPDataI, window);
+    DrawDataChart(control, second, "Q", control.EvDO.CDPDataQ, window);
     if (control.EvDOChartHasMarkers && control.EvDO.DataPowerActive != EvDONotCaptured)
-        DrawBoxMarkers(control, second, false);
+        DrawBoxMarkers(control, second);
 }
 
 /// The slot's power against the chips of a slot; the scale of an active slot is wider.
