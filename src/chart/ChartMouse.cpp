@@ -114,7 +114,7 @@ void DropMarker(Control& control, const ChartBox& chart)
     MarkerSet& markers = control.*chart.Markers;
     const auto marker = static_cast<std::size_t>(markers.DraggedMarker);
     const TraceSlot& slot = control.TraceSlots[0];
-    const auto end = slot.X.begin() + std::max<std::int16_t>(slot.Length, 0);
+    const auto end = slot.X.begin() + static_cast<std::ptrdiff_t>(UsedPoints(slot));
     const auto right =
         std::find_if(slot.X.begin(), end, [&](float each) { return each > markers.MarkerX[marker]; });
     // Right of the last point the marker stays, and so it does without a move: then its X is that of an

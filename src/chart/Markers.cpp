@@ -41,11 +41,19 @@ void SetMarkerFlag(Control& control, MarkerSet& markers, std::int16_t index, boo
     }
 }
 
-std::string TextOfMarker(Control& control, const MarkerSet& markers, std::size_t marker)
+/// The row that tells these markers' texts, null where their X does. A trace that was refused leaves its mode
+/// in the header, but the markers are those of the one on show.
+const ModeRow* TextRow(const Control& control, const MarkerSet& markers)
 {
     const ModeRow* row = control.Families.FindMode(control.Header.Mode);
-    return row != nullptr && row->MarkerText != nullptr ? row->MarkerText(control, marker)
-                                                        : FormatValue(markers.MarkerX[marker], "#0.000");
+    const bool tells = row != nullptr && row->MarkerText != nullptr && row->Markers != nullptr;
+    return tells && &(control.*row->Markers) == &markers ? row : nullptr;
+}
+
+std::string TextOfMarker(Control& control, const MarkerSet& markers, std::size_t marker)
+{
+    const ModeRow* row = TextRow(control, markers);
+    return row != nullptr ? row->MarkerText(control, marker) : FormatValue(markers.MarkerX[marker], "#0.000");
 }
 
 } // namespace
@@ -77,7 +85,7 @@ bool MarkerState(const Control& control, std::int16_t index)
 void MarkerAtX(Control& control, MarkerSet& markers, std::size_t marker)
 {
     const TraceSlot& slot = control.TraceSlots[0];
-    const auto end = slot.X.begin() + std::max<std::int16_t>(slot.Length, 0);
+    const auto end = slot.X.begin() + static_cast<std::ptrdiff_t>(UsedPoints(slot));
     const float x = markers.MarkerX[marker];
     const auto right = std::find_if(slot.X.begin(), end, [&](float each) { return each > x; });
     if (right == end)
@@ -98,6 +106,10 @@ void StepMarker(Control& control, MarkerSet& markers, int keyCode)
     // A step past the curve's ends is taken back by the redraw, which clamps every marker.
     std::int16_t& index = markers.MarkerIndex[marker];
     index = static_cast<std::int16_t>(index + (keyCode == KeyCodes::Left ? -1 : 1));
+    const TraceSlot& slot = control.TraceSlots[0];
+    if (const std::size_t points = UsedPoints(slot); points > 0 && TextRow(control, markers) == nullptr)
+        markers.MarkerX[marker] =
+            slot.X[std::min(static_cast<std::size_t>(std::max<std::int16_t>(index, 0)), points - 1)];
     markers.MarkerText[marker] = TextOfMarker(control, markers, marker);
     RedrawTrace(control);
 }

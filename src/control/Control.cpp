@@ -107,6 +107,11 @@ const ModeRow* CurrentRow(const Control& control)
     return control.Families.FindMode(control.CurrentMode);
 }
 
+std::size_t UsedPoints(const TraceSlot& slot)
+{
+    return std::min(static_cast<std::size_t>(std::max<std::int16_t>(slot.Length, 0)), slot.X.size());
+}
+
 void SetSlotLength(Control& control, std::size_t slot, std::int16_t length)
 {
     TraceSlot& curve = control.TraceSlots[slot];

@@ -119,6 +119,9 @@ private:
 /// The row of the mode on show, null when there is none.
 const ModeRow* CurrentRow(const Control& control);
 
+/// How many points of a curve count; its length comes from the trace and may be anything.
+std::size_t UsedPoints(const TraceSlot& slot);
+
 /// Gives a slot a length and sizes its arrays, keeping what fits.
 /// @throws HostFault Range for a length below 1, which the slot has then, with the arrays as they were.
 void SetSlotLength(Control& control, std::size_t slot, std::int16_t length);

@@ -5,6 +5,7 @@
 #include "formats/TraceMode.h"
 
 #include <algorithm>
+#include <span>
 
 namespace Traces {
 
@@ -12,12 +13,12 @@ namespace {
 
 std::string CurveText(const TraceSlot& slot)
 {
-    const auto points = std::min<std::size_t>(
-        static_cast<std::size_t>(std::max<std::int16_t>(slot.Length, 0)), slot.X.size());
+    const std::size_t points = UsedPoints(slot);
     if (points == 0)
         return ", no points";
+    const auto [first, last] = std::ranges::minmax(std::span(slot.X).first(points));
     return ", " + std::to_string(points) + (points == 1 ? " point" : " points") + " from " +
-           NumberText(slot.X.front()) + " to " + NumberText(slot.X[points - 1]);
+           NumberText(first) + " to " + NumberText(last);
 }
 
 /// What stands in large letters on a holder: a reading that is no curve.
@@ -30,6 +31,16 @@ std::string ReadingText(const ChartSurface& holder)
     return text;
 }
 
+/// Two modes have no name in files.
+std::string SpokenName(std::uint8_t mode)
+{
+    switch (mode) {
+    case TraceMode::VNAUnnamed: return "Sweep";
+    case TraceMode::SpectrogramSweep: return "Sweep of a spectrogram";
+    default: return ModeName(mode);
+    }
+}
+
 std::string MarkersText(const MarkerSet& markers, const TraceSlot& slot)
 {
     std::string text;
@@ -38,7 +49,7 @@ std::string MarkersText(const MarkerSet& markers, const TraceSlot& slot)
             continue;
         text += ", marker " + std::to_string(k + 1);
         const auto index = static_cast<std::size_t>(std::max<std::int16_t>(markers.MarkerIndex[k], 0));
-        if (index < slot.X.size() && index < slot.Y.size())
+        if (index < UsedPoints(slot))
             text += " at " + NumberText(slot.X[index]) + " reads " + NumberText(slot.Y[index]);
     }
     return text.empty() ? ", no markers" : text;
@@ -51,7 +62,7 @@ std::string DescribePlot(const Control& control)
     const ModeRow* row = CurrentRow(control);
     if (row == nullptr)
         return "No trace.";
-    std::string text = ModeName(row->Mode);
+    std::string text = SpokenName(row->Mode);
     if (!control.TraceName.empty())
         text += " \"" + control.TraceName + '"';
     const std::string reading = row->Holder != nullptr ? ReadingText(control.*row->Holder) : std::string();

@@ -1,4 +1,5 @@
 #include "chart/ColourRamp.h"
+#include "chart/Markers.h"
 #include "control/ChartMenu.h"
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
@@ -235,6 +236,25 @@ TEST_F(Spectrogram, APressChoosesASweepAndADoubleClickShowsItAlone)
     EXPECT_FALSE(ChartMenu(state, &state.SpectroMarkers).Items.front().Visible) << "AutoScale";
     plot.ClearMarkers();
     EXPECT_EQ(readout(), "");
+}
+
+TEST_F(Spectrogram, AMarkerStepsNoFurtherThanTheEnds)
+{
+    ASSERT_TRUE(plot.ShowTrace(RawSpectrogram(3).Bytes()));
+    plot.MarkerOn(0);
+    MarkerSet& markers = state.SpectroMarkers;
+    markers.SelectedMarker = 0;
+    for (const auto& [key, end] : {std::pair{KeyCodes::Left, 0}, std::pair{KeyCodes::Right, 400}}) {
+        markers.MarkerIndex[0] = static_cast<std::int16_t>(end);
+        StepMarker(state, markers, key);
+        EXPECT_EQ(markers.MarkerIndex[0], end);
+    }
+    // A buffer that is refused tells its mode all the same; a sweep's markers stay a sweep's.
+    ASSERT_TRUE(plot.ShowTrace(Testing::RawSweep(0, {1000, 500}).Bytes()));
+    EXPECT_THROW(plot.ShowTrace(RawBuilder(32768).Bytes()), HostFault);
+    state.VNAMarkers.MarkerX[1] = 830;
+    MarkerAtX(state, state.VNAMarkers, 1);
+    EXPECT_EQ(state.VNAMarkers.MarkerText[1], "830.000");
 }
 
 TEST_F(Spectrogram, ABufferOfTheSweepsModeDecodesNothingAndDrawsAnEmptyFrame)

@@ -72,6 +72,10 @@ TEST_F(Widgets, EventsOfAGpsCheckScrollInAList)
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, {20, 5});
     QTest::keyClick(list, Qt::Key_End);
     EXPECT_TRUE(list->rect().contains(list->visualItemRect(list->item(48))));
+    QKeyEvent up(QEvent::ShortcutOverride, Qt::Key_Up, Qt::NoModifier);
+    up.ignore();
+    QApplication::sendEvent(list, &up);
+    EXPECT_TRUE(up.isAccepted()) << "the list's key, whatever shortcuts its window has";
     ShowSample("gpst_clear_sky.raw");
     EXPECT_EQ(list->count(), 12);
     ShowSample("rl_gsm900_antenna_201pts.raw");
@@ -85,6 +89,10 @@ TEST_F(Widgets, ZoomGoesByDoubleClickDragAndMenu)
     const float y1 = box.ScaleTop + box.ScaleHeight * 0.25F, y2 = box.ScaleTop + box.ScaleHeight * 0.75F;
     const float left = box.ScaleLeft;
     const QPoint corner = PixelOf(box, x1, y1);
+    QTest::mousePress(&widget, Qt::LeftButton, {}, corner);
+    EXPECT_EQ(widget.cursor().shape(), Qt::CrossCursor);
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, corner);
+    EXPECT_EQ(widget.cursor().shape(), Qt::ArrowCursor);
     QTest::mouseDClick(&widget, Qt::LeftButton, {}, corner);
     EXPECT_TRUE(State().ZoomActive);
     EXPECT_EQ(widget.cursor().shape(), Qt::CrossCursor);
@@ -167,6 +175,13 @@ TEST_F(Widgets, HostMayEndOrFailTheWidgetInAnEvent)
     QObject::connect(&widget, &PlotWidget::MarkerChanged, qApp, [this] { owner.reset(); });
     owner->Plot().MarkerOn(3);
     EXPECT_EQ(owner, nullptr);
+
+    owner = std::make_unique<PlotWidget>();
+    QObject::connect(owner.get(), &PlotWidget::AutoScaleYChanged, qApp, [this] { owner.reset(); });
+    owner->ChooseMenuItem("menuAutoScale");
+    ASSERT_NE(owner, nullptr) << "first the control's own work";
+    QTest::qWait(10);
+    EXPECT_EQ(owner, nullptr);
 }
 
 TEST_F(Widgets, SentenceTellsTheTraceToScreenReaders)
@@ -177,6 +192,10 @@ TEST_F(Widgets, SentenceTellsTheTraceToScreenReaders)
     EXPECT_TRUE(sentence.startsWith("RL Frequency \"Tower\", 201 points from ")) << sentence.toStdString();
     EXPECT_TRUE(sentence.contains("marker 1 at ")) << sentence.toStdString();
     EXPECT_FALSE(widget.accessibleName().isEmpty());
+    ShowSample("iden_demod_noisy.raw");
+    QTest::qWait(300);
+    EXPECT_TRUE(widget.accessibleDescription().contains(" from -2680 to 2768"))
+        << "the span, whatever its order";
 }
 
 } // namespace

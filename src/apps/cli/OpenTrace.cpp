@@ -39,11 +39,6 @@ std::string MessageLine(std::string_view text)
 
 } // namespace
 
-std::size_t UsedPoints(const TraceSlot& slot)
-{
-    return std::min(static_cast<std::size_t>(std::max<std::int16_t>(slot.Length, 0)), slot.X.size());
-}
-
 OpenTrace::OpenTrace(const TextMetrics& metrics) : platform(metrics)
 {
     // The demonstration curve of a new control is none of the trace's.

@@ -11,7 +11,6 @@
 #include <vector>
 
 namespace Traces {
-struct TraceSlot;
 }
 
 namespace Traces::Cli {
@@ -51,8 +50,5 @@ private:
     TidyPlatform platform;
     Traces::Plot plot{platform};
 };
-
-/// How many points of a curve count; its length comes from the trace and may be anything.
-std::size_t UsedPoints(const TraceSlot& slot);
 
 } // namespace Traces::Cli

@@ -206,8 +206,7 @@ bool DrawMap(Control& control)
     ChartSurface& box = control.SpectroBox;
     const TraceSlot& slot = control.TraceSlots[0];
     ChartWindow window = ChooseWindow(control);
-    if (static_cast<std::size_t>(std::max<std::int16_t>(slot.Length, 0)) < SpectroRecord::Points ||
-        window.Xmin == window.Xmax)
+    if (UsedPoints(slot) < SpectroRecord::Points || window.Xmin == window.Xmax)
         return false;
     PutFrequencies(control, window.Xmin, window.Xmax);
     // A cell stands around its frequency, and the first and last ones show whole. The other axis counts
@@ -252,7 +251,10 @@ void EndSpectroView(Control& control)
 
 std::string SpectroMarkerText(Control& control, std::size_t marker)
 {
-    return PointText(control, static_cast<std::size_t>(control.SpectroMarkers.MarkerIndex[marker]));
+    const MarkerSet& markers = control.SpectroMarkers;
+    const auto point = static_cast<std::size_t>(markers.MarkerIndex[marker]);
+    // A step past the curve's ends waits for the redraw, which takes it back.
+    return point < UsedPoints(control.TraceSlots[0]) ? PointText(control, point) : markers.MarkerText[marker];
 }
 
 void DrawSpectroTrace(Control& control)

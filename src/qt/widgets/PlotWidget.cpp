@@ -77,10 +77,29 @@ private:
     PlotWidget& widget;
 };
 
+/// A list whose own keys are its own, though its window may have them as shortcuts.
+class EventList final : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::ShortcutOverride)
+            return QListWidget::event(event);
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        constexpr int moves[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+        if (key.modifiers() == Qt::NoModifier && std::ranges::find(moves, key.key()) != std::end(moves))
+            event->accept();
+        return true;
+    }
+};
+
 /// What the widget keeps between paint events.
 struct PlotWidget::Kept {
     KeptPictures Pictures;
     QTimer Description;            ///< screen readers needn't hear each step of a drag
+    QTimer ChangedScale;           ///< a handler runs when the control's own work is over
     QListWidget* Events = nullptr; ///< the widget's own child, over the box of a GPS check
     std::vector<std::string> EventLines;
     bool AutoScaleY = false; ///< as it was told last
@@ -99,6 +118,8 @@ PlotWidget::PlotWidget(QWidget* parent)
     kept->Description.setSingleShot(true);
     kept->Description.setInterval(descriptionDelay);
     connect(&kept->Description, &QTimer::timeout, this, &PlotWidget::DescribeTrace);
+    kept->ChangedScale.setSingleShot(true);
+    connect(&kept->ChangedScale, &QTimer::timeout, this, &PlotWidget::TellChangedScale);
     plot->Listen(events.get());
     DescribeTrace();
 }
@@ -117,6 +138,17 @@ void PlotWidget::Guarded(Action action)
     }
     if (!self.isNull())
         PictureChanged();
+}
+
+template <class Action>
+void PlotWidget::GuardedPointer(QPointF place, Action action)
+{
+    Guarded([&](Control& control) {
+        const LifeWatch life(control);
+        action(control);
+        if (!life.Gone())
+            ShowPointer(place);
+    });
 }
 
 void PlotWidget::SetPrinter(QPrinter* printer)
@@ -248,7 +280,7 @@ void PlotWidget::mousePressEvent(QMouseEvent* event)
     if (button == 0)
         return;
     platform->MenuPlace = event->globalPosition().toPoint();
-    Guarded([&](Control& control) {
+    GuardedPointer(event->position(), [&](Control& control) {
         DevicePress(control, button, ShiftOf(event->modifiers()), event->position().x(),
                     event->position().y());
     });
@@ -256,10 +288,9 @@ void PlotWidget::mousePressEvent(QMouseEvent* event)
 
 void PlotWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    Guarded([&](Control& control) {
+    GuardedPointer(event->position(), [&](Control& control) {
         DeviceMove(control, ButtonsOf(event->buttons()), ShiftOf(event->modifiers()), event->position().x(),
                    event->position().y());
-        ShowPointer(event->position());
     });
 }
 
@@ -268,7 +299,7 @@ void PlotWidget::mouseReleaseEvent(QMouseEvent* event)
     const int button = ButtonsOf(event->button());
     if (button == 0)
         return;
-    Guarded([&](Control& control) {
+    GuardedPointer(event->position(), [&](Control& control) {
         DeviceRelease(control, button, ShiftOf(event->modifiers()), event->position().x(),
                       event->position().y());
     });
@@ -278,11 +309,8 @@ void PlotWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return mousePressEvent(event);
-    Guarded([&](Control& control) {
-        const LifeWatch life(control);
+    GuardedPointer(event->position(), [&](Control& control) {
         DeviceDoubleClick(control, event->position().x(), event->position().y());
-        if (!life.Gone())
-            ShowPointer(event->position());
     });
 }
 
@@ -332,12 +360,13 @@ void PlotWidget::TellPropertyChanged(std::string_view name)
 void PlotWidget::PictureChanged()
 {
     update();
-    if (plot != nullptr) {
-        ShowEventList();
-        TellChangedScale();
-    }
-    if (kept != nullptr && plot != nullptr && !kept->Description.isActive())
+    if (plot == nullptr)
+        return;
+    ShowEventList();
+    if (!kept->Description.isActive())
         kept->Description.start();
+    if (kept->AutoScaleY != plot->AutoScaleY())
+        kept->ChangedScale.start(0);
 }
 
 /// Menus and new traces change it, too.
@@ -359,7 +388,7 @@ void PlotWidget::ShowEventList()
         return;
     }
     if (kept->Events == nullptr) {
-        kept->Events = new QListWidget(this);
+        kept->Events = new EventList(this);
         kept->Events->setObjectName("Events");
         kept->Events->setAccessibleName(tr("Events"));
         kept->Events->setFrameShape(QFrame::NoFrame);

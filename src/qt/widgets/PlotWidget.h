@@ -137,6 +137,10 @@ private:
     template <class Action>
     void Guarded(Action action);
 
+    /// The same for the mouse, whose pointer it may change.
+    template <class Action>
+    void GuardedPointer(QPointF place, Action action);
+
     std::unique_ptr<QtPlatform> platform;
     std::unique_ptr<Events> events;
     std::unique_ptr<Kept> kept;
