@@ -54,7 +54,7 @@ std::optional<std::int16_t> MarkerNear(const Control& control, const ChartBox& c
             continue;
         if (!markers.MarkerOn[i] || markers.MarkerIndex[i] < 0 || point >= slot.X.size())
             continue;
-        if (std::abs((slot.X[point] - x) * box.Width / box.ScaleWidth) < reach)
+        if (std::abs((slot.X[point] - x) * box.Width) < reach * std::abs(box.ScaleWidth))
             return static_cast<std::int16_t>(i);
     }
     return std::nullopt;
@@ -86,7 +86,7 @@ void MoveCoords(Control& control, const ChartBox& chart, float x, float y)
                         ? row->CoordsText(control, x, y)
                         : FormatValue(x, chart.MaskX) + ", " + FormatValue(y, chart.MaskY);
     FitToCaption(box, label);
-    const float gap = 2 * box.ScaleWidth / box.Width;
+    const float gap = box.Width > 0 ? 2 * box.ScaleWidth / box.Width : 0;
     const bool nearRight = box.ScaleLeft + box.ScaleWidth - label.Width < x;
     label.Left = nearRight ? x - label.Width - gap : x + gap;
     label.Top = box.ScaleTop - label.Height < y ? y - label.Height : y + label.Height;

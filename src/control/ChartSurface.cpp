@@ -108,14 +108,14 @@ float ChartSurface::TextWidth(std::string_view text) const
 {
     const double pixels =
         screen.Metrics->TextWidth(text, Font) * TwipsPerPoint / static_cast<double>(screen.TwipsPerPixelX);
-    return static_cast<float>(pixels / PixelsPerUnitX());
+    return static_cast<float>(Ratio(pixels, PixelsPerUnitX()));
 }
 
 float ChartSurface::TextHeight(std::string_view) const
 {
     const double pixels =
         screen.Metrics->TextHeight(Font) * TwipsPerPoint / static_cast<double>(screen.TwipsPerPixelY);
-    return static_cast<float>(pixels / std::abs(PixelsPerUnitY()));
+    return static_cast<float>(Ratio(pixels, std::abs(PixelsPerUnitY())));
 }
 
 double ChartSurface::DeviceWidth() const

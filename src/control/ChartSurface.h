@@ -12,6 +12,12 @@
 
 namespace Traces {
 
+/// A quotient of extents, 0 where there is none: a surface may have no pixels yet, or no span.
+constexpr double Ratio(double extent, double unit)
+{
+    return unit != 0 ? extent / unit : 0;
+}
+
 class ChartSurface;
 
 /// A caption on a rectangle of its parent's user coordinates.
@@ -98,8 +104,8 @@ public:
     /// Device size in pixels, which follows from the parents' systems.
     double DeviceWidth() const;
     double DeviceHeight() const;
-    double PixelsPerUnitX() const { return DeviceWidth() / static_cast<double>(ScaleWidth); }
-    double PixelsPerUnitY() const { return DeviceHeight() / static_cast<double>(ScaleHeight); }
+    double PixelsPerUnitX() const { return Ratio(DeviceWidth(), static_cast<double>(ScaleWidth)); }
+    double PixelsPerUnitY() const { return Ratio(DeviceHeight(), static_cast<double>(ScaleHeight)); }
 
     /// Shown, with all that it lies in.
     bool IsShown() const { return Visible && (Parent == nullptr || Parent->IsShown()); }

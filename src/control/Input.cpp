@@ -284,9 +284,9 @@ Point UserPoint(const ChartSurface& surface, double x, double y)
 {
     const DevicePlace place = DevicePlaceOf(surface);
     return {static_cast<float>(static_cast<double>(surface.ScaleLeft) +
-                               (x - place.Left) / surface.PixelsPerUnitX()),
+                               Ratio(x - place.Left, surface.PixelsPerUnitX())),
             static_cast<float>(static_cast<double>(surface.ScaleTop) +
-                               (y - place.Top) / surface.PixelsPerUnitY())};
+                               Ratio(y - place.Top, surface.PixelsPerUnitY()))};
 }
 
 ChartSurface* FindSurface(Control& control, std::string_view name)

@@ -36,8 +36,8 @@ public:
     {
         FlushLines();
         scale = command;
-        stretchX = place.Width / static_cast<double>(command.Width);
-        stretchY = place.Height / static_cast<double>(command.Height);
+        stretchX = Ratio(place.Width, static_cast<double>(command.Width));
+        stretchY = Ratio(place.Height, static_cast<double>(command.Height));
     }
 
     void operator()(const LineCommand& command)
@@ -180,8 +180,8 @@ private:
     template <class Child>
     static Place PlaceOf(const Child& child, const ChartSurface& parent, const Place& place)
     {
-        const double unitX = place.Width / static_cast<double>(parent.ScaleWidth);
-        const double unitY = place.Height / static_cast<double>(parent.ScaleHeight);
+        const double unitX = Ratio(place.Width, static_cast<double>(parent.ScaleWidth));
+        const double unitY = Ratio(place.Height, static_cast<double>(parent.ScaleHeight));
         return {place.Left + static_cast<double>(child.Left - parent.ScaleLeft) * unitX,
                 place.Top + static_cast<double>(child.Top - parent.ScaleTop) * unitY,
                 static_cast<double>(child.Width) * std::abs(unitX),
@@ -209,7 +209,7 @@ private:
     {
         const TextMetrics& metrics = *label.Parent.Screen().Metrics;
         Font font = label.Font;
-        const double tooWide = metrics.TextWidth(label.Caption, font) * pointSize / place.Width;
+        const double tooWide = Ratio(metrics.TextWidth(label.Caption, font) * pointSize, place.Width);
         if (tooWide > 1)
             font.Size = static_cast<float>(static_cast<double>(font.Size) / tooWide);
         const double width = metrics.TextWidth(label.Caption, font) * pointSize;

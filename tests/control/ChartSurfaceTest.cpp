@@ -2,6 +2,7 @@
 
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
+#include "control/Input.h"
 #include "control/ModeTable.h"
 #include "control/ViewText.h"
 
@@ -104,6 +105,18 @@ TEST_F(Surfaces, LampsTakeTheirPlaceFromThePenWhenAsked)
     const DisplayList expected = {UserScale{0, 0, 550, 480}, CircleCommand{{60, 31}, 6, 0xFF00, 0xFF00},
                                   CircleCommand{{60, 31}, 6, Black, NoColour}};
     EXPECT_EQ(holder.Picture(), expected);
+}
+
+TEST_F(Surfaces, ASurfaceWithoutExtentTakesTextAndMouse)
+{
+    box.Width = 0;
+    EXPECT_EQ(box.TextWidth("-30 dB"), 0);
+    MouseDown(control, box, MouseButton::Left, 0, 120, -10);
+    MouseMove(control, box, MouseButton::Left, 0, 130, -20);
+    MouseUp(control, box, MouseButton::Left, 0, 130, -20);
+    box.Scale(100, 0, 100, -30);
+    EXPECT_EQ(box.TextWidth("-30 dB"), 0);
+    EXPECT_EQ(UserPoint(box, 5, 5).X, 100);
 }
 
 TEST_F(Surfaces, EveryChildStandsAtItsRectangle)

@@ -193,6 +193,8 @@ TEST_F(Spectrogram, TheMapIsOneImageWithALegendAtItsFoot)
     plot.RedrawTrace();
     EXPECT_EQ(Map(), map);
     EXPECT_EQ(state.SpectroBox.ScaleTop, 30);
+    state.ZoomY2 = 1E38F;
+    EXPECT_EQ(Testing::FaultOf([&] { plot.RedrawTrace(); }), std::nullopt) << "sweeps beyond all numbers";
     state.ZoomActive = false;
     plot.RedrawTrace();
     EXPECT_EQ(state.SpectroBox.ScaleTop, 80);

@@ -25,8 +25,8 @@ void FillEvDOCurve(Control& control);
 /// Takes the markers' places, states, boxes and texts from the record.
 void TakeEvDOMarkers(Control& control);
 
-/// Whether a marker has its place in a box: those of MAC codes in the first, those of data codes in the second,
-/// which shows Q, each on its own page; none where the page has none.
+/// Whether a marker has its place in a box: those of MAC codes in the first, those of data codes in the
+/// second, which shows Q, each on its own page; none where the page has none.
 bool EvDOMarkerStandsIn(const Control& control, const ChartSurface& box, std::size_t marker);
 
 /// Of a MAC code "-12.34 dB,32,PAGE", of a data code "-3.21 dB,-3.40 dB,7" for I, Q and the code; "Off".

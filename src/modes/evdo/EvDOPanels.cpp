@@ -101,8 +101,7 @@ void DrawDataResults(ChartSurface& holder, const EvDORecord& record)
 void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
 {
     const Result results[] = {
-        {6, 364, "Pilot/MAC Power", EvDOLevelText(record, record.PilotMACPowerAverage),
-         LevelSize(record)},
+        {6, 364, "Pilot/MAC Power", EvDOLevelText(record, record.PilotMACPowerAverage), LevelSize(record)},
         {6, 424, "Noise Floor (dB)", FormatValue(record.NoiseFloor, "#0.0"), LargeSize},
         {190, 364, "Rho Overall 1", FormatValue(record.RhoOverall1, "#0.000"), LargeSize},
         {190, 424, "Freq Error (Hz)", FormatValue(record.FrequencyError, "#0"), LargeSize},
@@ -121,8 +120,7 @@ void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
 void DrawScanResults(ChartSurface& holder, const EvDORecord& record)
 {
     const Result results[] = {
-        {6, 364, "Pilot/MAC Power", EvDOLevelText(record, record.PilotMACPowerAverage),
-         LevelSize(record)},
+        {6, 364, "Pilot/MAC Power", EvDOLevelText(record, record.PilotMACPowerAverage), LevelSize(record)},
         {6, 424, "Pilot Dominance (dB)", FormatValue(record.PilotDominance, "#0.00"), LargeSize},
         {190, 364, "Noise Floor (dB)", FormatValue(record.NoiseFloor, "#0.0"), LargeSize},
         {190, 424, "Rho Pilot", FormatValue(record.RhoPilot, "#0.000"), LargeSize},

@@ -87,8 +87,8 @@ void DrawConstellation(const Control& control, ChartSurface& box, const TraceSlo
     constexpr float zero = 0;
     box.Line(box.ScaleLeft, zero, box.ScaleLeft + box.ScaleWidth, zero, control.GridColor);
     box.Line(zero, box.ScaleTop, zero, box.ScaleTop + box.ScaleHeight, control.GridColor);
-    const auto halfWidth = static_cast<float>(1 / box.PixelsPerUnitX());
-    const auto halfHeight = static_cast<float>(1 / std::abs(box.PixelsPerUnitY()));
+    const auto halfWidth = static_cast<float>(Ratio(1, box.PixelsPerUnitX()));
+    const auto halfHeight = static_cast<float>(Ratio(1, std::abs(box.PixelsPerUnitY())));
     for (std::size_t i = 0; static_cast<int>(i) < slot.Length; ++i) {
         CheckCurvePoint(slot, i);
         box.FillBox(slot.X[i] - halfWidth, slot.Y[i] - halfHeight, slot.X[i] + halfWidth,

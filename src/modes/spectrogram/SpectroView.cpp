@@ -131,9 +131,10 @@ void DrawTimeAxis(Control& control, const ChartWindow& window)
 {
     ChartSurface& box = control.SpectroBox;
     const SpectroRecord& record = control.Spectro;
-    constexpr float labels = 8;
+    constexpr float labels = 8, mostSweeps = 1000;
     const float foot = window.Ymin + (window.Ymax - window.Ymin) * LegendPart;
-    const auto every = static_cast<int>(std::max(1.0F, std::ceil((window.Ymax - foot) / labels)));
+    const auto every =
+        static_cast<int>(std::clamp(std::ceil((window.Ymax - foot) / labels), 1.0F, mostSweeps));
     box.DrawStyle = LineStyle::Solid;
     for (int sweep = 0; sweep < record.SweepCount; sweep += every) {
         const float at = static_cast<float>(sweep) + 0.5F;
