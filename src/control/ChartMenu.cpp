@@ -5,7 +5,6 @@
 #include "control/Control.h"
 #include "control/Plot.h"
 #include "control/TraceFile.h"
-#include "formats/TraceMode.h"
 #include "output/Capture.h"
 #include "output/GpsText.h"
 
@@ -20,38 +19,28 @@ constexpr std::array<std::string_view, 10> MarkerCaptions = {
     "Marker 1", "Marker 2", "Marker 3",          "Marker 4", "Marker 5",
     "Marker 6", "-",        "Clear All markers", "-",        "Show Marker Values"};
 
-const FamilyMenuItem* FindFamilyItem(const Control& control, std::string_view name)
+/// The parts of all families; only that of the mode on show is seen.
+void AddFamilyItems(std::vector<MenuItem>& items, const Control& control)
 {
-    const ModeRow* row = CurrentRow(control);
-    if (row == nullptr)
-        return nullptr;
-    const auto found = std::ranges::find(row->MenuItems, name, &FamilyMenuItem::Name);
-    return found == row->MenuItems.end() ? nullptr : &*found;
-}
-
-bool IsChecked(const Control& control, std::string_view familyItem)
-{
-    const FamilyMenuItem* item = FindFamilyItem(control, familyItem);
-    return item != nullptr && item->Checked != nullptr && item->Checked(control);
-}
-
-/// An item that only the family on show has.
-MenuItem FamilyItem(const Control& control, std::string_view name, std::string_view caption, bool shown)
-{
-    const FamilyMenuItem* item = FindFamilyItem(control, name);
-    const bool enabled = item == nullptr || item->Enabled == nullptr || item->Enabled(control);
-    return {name, caption, shown, enabled, IsChecked(control, name)};
+    for (const ModeRow& row : control.Families.Modes) {
+        if (row.Menu.Items.empty())
+            continue;
+        const bool shown = row.Mode == control.CurrentMode;
+        items.push_back({row.Menu.Separator, "-", shown});
+        for (const FamilyMenuItem& item : row.Menu.Items)
+            items.push_back({item.Name, item.Caption, shown,
+                             !shown || item.Enabled == nullptr || item.Enabled(control),
+                             shown && item.Checked != nullptr && item.Checked(control)});
+    }
 }
 
 MenuItem MarkersMenu(const Control& control, const MarkerSet* markers)
 {
     const ModeRow* row = CurrentRow(control);
-    // Lines and bursts have marker sets, but no Markers item.
-    const bool hidden = (row != nullptr && row->Markers == nullptr) ||
-                        control.CurrentMode == TraceMode::GSM || control.CurrentMode == TraceMode::E1 ||
-                        control.CurrentMode == TraceMode::T1 || markers == nullptr;
-    // The spectrum of a code domain trace has no markers.
-    const bool enabled = !IsChecked(control, "menuCDMARFSpec");
+    const bool hidden =
+        markers == nullptr || (row != nullptr && (row->Markers == nullptr || !row->HasMarkersMenu));
+    const bool enabled =
+        row == nullptr || row->MarkersMenuEnabled == nullptr || row->MarkersMenuEnabled(control);
     MenuItem head{"menuMarkerHead", "Markers", !hidden, enabled};
     for (std::size_t i = 0; i < MarkerCaptions.size(); ++i) {
         MenuItem item{"menuMarkers", MarkerCaptions[i]};
@@ -137,52 +126,31 @@ void Show(Control& control, const Menu& menu)
 Menu ChartMenu(const Control& control, const MarkerSet* markers)
 {
     const bool onChart = markers != nullptr;
-    const int mode = control.CurrentMode;
-    const bool gsm = mode == TraceMode::GSM;
-    const bool cdma = mode == TraceMode::CDMA;
-    const bool evdo = mode == TraceMode::EvDO;
-    const bool iden = mode == TraceMode::IDEN;
+    const ModeRow* row = CurrentRow(control);
+    const bool scales = row == nullptr || row->HasAutoScale;
+    Menu menu{"menuPopUpHeader",
+              {
+                  {"menuAutoScale", "AutoScale", onChart && scales, true, control.AutoScaleY},
+                  {"menuUndoZoom", "Undo Zoom", onChart, control.ZoomActive},
+              }};
+    AddFamilyItems(menu.Items, control);
     MenuItem markerHead = MarkersMenu(control, markers);
     const bool hasMarkers = markerHead.Visible;
-    return {"menuPopUpHeader",
-            {
-                // A spectrogram's other axis is time.
-                {"menuAutoScale", "AutoScale", onChart && mode != TraceMode::Spectrogram, true,
-                 control.AutoScaleY},
-                {"menuUndoZoom", "Undo Zoom", onChart, control.ZoomActive},
-                {"menuGSMSepbar", "-", gsm},
-                FamilyItem(control, "menuGSMSpec", "Spectrum Mode", gsm),
-                FamilyItem(control, "menuGSMFrame", "Frame Mode", gsm),
-                FamilyItem(control, "menuGSMSlot", "Slot Mode", gsm),
-                {"menuCDAMSepbar", "-", cdma},
-                FamilyItem(control, "menuCDMAHistogram", "CDP Histogram", cdma),
-                FamilyItem(control, "menuCDMARFSpec", "RF Spectrum Graph", cdma),
-                FamilyItem(control, "menuCDMABitReverse", "Bit Reverse", cdma),
-                {"menuEvDOeSepbar", "-", evdo},
-                FamilyItem(control, "menuEvDOCDPMAC", "CDP - MAC", evdo),
-                FamilyItem(control, "menuEvDOCDPData", "CDP - Data", evdo),
-                FamilyItem(control, "menuEvDOOTA", "Over the Air", evdo),
-                FamilyItem(control, "menuEvDORFSpecIdle", "RF Spectrum - Idle", evdo),
-                FamilyItem(control, "menuEvDORFSpecActive", "RF Spectrum - Active", evdo),
-                {"menuIDENSepbar", "-", iden},
-                FamilyItem(control, "menuIDENSpec", "Spectrum", iden),
-                FamilyItem(control, "menuIDENACPR", "ACPR", iden),
-                FamilyItem(control, "menuIDENPower", "Power vs Time", iden),
-                FamilyItem(control, "menuIDENDemod", "Demod", iden),
-                FamilyItem(control, "menuIDENAll", "All Views", iden),
-                {"menuSubTitleSepbar", "-"},
-                {"menuSubTitle", "Plot Subtitle"},
-                {"menuTraceInfoSepbar", "-", onChart},
-                {"menuTraceInfo", "Trace Information"},
-                {"menuSaveSepbar", "-"},
-                {"menuSave2File", "Save to File"},
-                {"menuCopySepbar", "-"},
-                {"menuClipboardCopy", "Copy to Clipboard"},
-                {"menuGPSSepbar", "-"},
-                {"menuGPSCoords", "GPS Coordinates"},
-                {"menuMarkerSepbar", "-", hasMarkers},
-                std::move(markerHead),
-            }};
+    menu.Items.insert(menu.Items.end(), {
+                                            {"menuSubTitleSepbar", "-"},
+                                            {"menuSubTitle", "Plot Subtitle"},
+                                            {"menuTraceInfoSepbar", "-", onChart},
+                                            {"menuTraceInfo", "Trace Information"},
+                                            {"menuSaveSepbar", "-"},
+                                            {"menuSave2File", "Save to File"},
+                                            {"menuCopySepbar", "-"},
+                                            {"menuClipboardCopy", "Copy to Clipboard"},
+                                            {"menuGPSSepbar", "-"},
+                                            {"menuGPSCoords", "GPS Coordinates"},
+                                            {"menuMarkerSepbar", "-", hasMarkers},
+                                            std::move(markerHead),
+                                        });
+    return menu;
 }
 
 Menu PowerMenu()
@@ -213,10 +181,14 @@ bool RunMenuItem(Control& control, const MenuChoice& choice, bool checked)
         handler->Run(control, choice.Index, checked);
         return true;
     }
-    const FamilyMenuItem* item = FindFamilyItem(control, choice.Name);
-    if (item != nullptr)
-        item->Run(control);
-    return item != nullptr;
+    const ModeRow* row = CurrentRow(control);
+    for (const FamilyMenuItem& item : row != nullptr ? row->Menu.Items : std::span<const FamilyMenuItem>()) {
+        if (item.Name == choice.Name) {
+            item.Run(control);
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace Traces

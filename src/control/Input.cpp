@@ -34,49 +34,40 @@ ChartSurface* FindBelow(ChartSurface& surface, std::string_view name)
     return nullptr;
 }
 
-bool OpensPowerMenu(const Control& control, const ChartSurface& surface)
+bool LiesIn(const ChartSurface& surface, const ChartSurface& holder)
 {
-    return &surface == &control.PMHolder || &surface == &control.PowerBar ||
-           &surface == &control.ZephraHolder;
+    return &surface == &holder || (surface.Parent != nullptr && LiesIn(*surface.Parent, holder));
 }
 
-/// The set behind the chart menu of a surface that isn't a chart; null with none.
-MarkerSet* MarkersBeside(Control& control, const ChartSurface& surface)
+/// The mode whose menu a right click beside the charts opens; null with none.
+const ModeRow* MenuRow(const Control& control, const ChartSurface& surface)
 {
-    if (&surface == &control.CDMAHolder)
-        return &control.CDMAMarkers;
-    return &surface == &control.EvDOHolder ? &control.EvDOMarkers : nullptr; // over the air it has no chart
-}
-
-/// Pages and parts of pages without a chart box of their own.
-bool OpensChartMenu(const Control& control, const ChartSurface& surface)
-{
-    for (const ChartSurface* each :
-         {&control.ParamBox, &control.CDMAHolder, &control.EvDOHolder, &control.E1T1Holder, &control.VppBar,
-          &control.GPSiDENHolder, &control.GPSiDENBox, &control.idenHolder, &control.idenbox1,
-          &control.idenbox2, &control.idenbox3})
-        if (each == &surface)
-            return true;
-    return false;
+    for (const ModeRow& row : control.Families.Modes)
+        if (row.RightClick != HolderMenu::None && LiesIn(surface, control.*row.Holder))
+            return &row;
+    return nullptr;
 }
 
 /// Whether a right click on a surface opens a menu.
 bool HasMenu(const Control& control, const ChartSurface& surface, const ChartBox* chart)
 {
     return control.AllowPopupMenu &&
-           (chart != nullptr || OpensChartMenu(control, surface) || OpensPowerMenu(control, surface));
+           (chart != nullptr || &surface == &control.ParamBox || MenuRow(control, surface) != nullptr);
 }
 
 void OpenMenu(Control& control, const ChartSurface& surface, const ChartBox* chart)
 {
     if (!HasMenu(control, surface, chart))
         return;
-    if (OpensPowerMenu(control, surface))
-        ShowPowerMenu(control);
-    else if (chart != nullptr)
+    const ModeRow* row = MenuRow(control, surface);
+    if (chart != nullptr)
         ShowChartMenu(control, chart->Markers != nullptr ? &(control.*chart->Markers) : nullptr);
+    else if (row != nullptr && row->RightClick == HolderMenu::Power)
+        ShowPowerMenu(control);
+    else if (row != nullptr && row->Markers != nullptr && row->HasMarkersMenu)
+        ShowChartMenu(control, &(control.*row->Markers));
     else
-        ShowChartMenu(control, MarkersBeside(control, surface));
+        ShowChartMenu(control, nullptr);
 }
 
 void Capture(Control& control, ChartSurface& surface, int button)
@@ -265,12 +256,11 @@ void DeviceKeyUp(Control& control, int keyCode, int shift)
 
 void DeviceMenuKey(Control& control)
 {
-    if (control.PMHolder.IsShown())
-        OpenMenu(control, control.PMHolder, nullptr);
-    else if (control.ZephraHolder.IsShown())
-        OpenMenu(control, control.ZephraHolder, nullptr);
-    else if (const ChartBox* chart = ShownChartBox(control))
+    const ModeRow* row = CurrentRow(control);
+    if (const ChartBox* chart = ShownChartBox(control))
         OpenMenu(control, control.*chart->Box, chart);
+    else if (row != nullptr && row->RightClick != HolderMenu::None)
+        OpenMenu(control, control.*row->Holder, nullptr);
     else
         OpenMenu(control, control.ParamBox, nullptr);
 }

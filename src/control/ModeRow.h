@@ -25,14 +25,24 @@ struct GpsFix {
     std::optional<std::string> UTCTime; ///< of the modes that have one
 };
 
-/// An item of the chart menu that one family has, under the name that the menu has it.
+/// An item of the chart menu that one family has.
 struct FamilyMenuItem {
     std::string_view Name;
+    std::string_view Caption;
     void (*Run)(Control& control) = nullptr;
     bool (*Checked)(const Control& control) = nullptr;
     bool (*Enabled)(const Control& control) = nullptr; ///< null is always
     std::string_view View = {}; ///< what programs call the sub view that Run shows, if any
 };
+
+/// A family's part of the chart menu, which is hidden while another family is on show.
+struct FamilyMenu {
+    std::string_view Separator; ///< name of the one before the items
+    std::span<const FamilyMenuItem> Items;
+};
+
+/// What a right click on a mode's holder opens, and on all in it that is no chart of its own.
+enum class HolderMenu : std::uint8_t { None, Chart, Power };
 
 /// What a measurement mode does. A null function means that the mode has no such route.
 struct ModeRow {
@@ -51,8 +61,13 @@ struct ModeRow {
     /// Whether a box shows a marker that is on; null where every chart shows them all.
     bool (*MarkerStandsIn)(const Control& control, const ChartSurface& box, std::size_t marker) = nullptr;
 
-    /// The family's own items of the chart menu.
-    std::span<const FamilyMenuItem> MenuItems = {};
+    HolderMenu RightClick = HolderMenu::None;
+    FamilyMenu Menu = {};
+
+    /// Whether the chart menu has AutoScale, and, for a mode with markers, their submenu; and whether that
+    /// can be opened, null is always.
+    bool HasAutoScale = true, HasMarkersMenu = true;
+    bool (*MarkersMenuEnabled)(const Control& control) = nullptr;
 
     /// Fills the family's record and the parameter list from a raw trace.
     void (*Decode)(Control& control, const RawBuffer& buffer) = nullptr;

@@ -107,6 +107,7 @@ constexpr ModeRow SpectrogramMap = {
     .Holder = &ChildControls::SpectroHolder,
     .Markers = &Control::SpectroMarkers,
     .MarkerText = SpectroMarkerText,
+    .HasAutoScale = false, // its other axis is time
     .Decode = DecodeSpectroTrace,
     .FillCurve = FillSpectroCurve,
     .Params = SpectroParams,
@@ -134,6 +135,7 @@ constexpr FileKind HIPMFile = {"HIPM", LoadPowerMeter_Zephra_Text, nullptr};
 constexpr ModeRow PowerMeter = {
     .Mode = TraceMode::PowerMeter,
     .Holder = &ChildControls::PMHolder,
+    .RightClick = HolderMenu::Power,
     .Decode = DecodePowerMeter,
     .Params = PowerMeterParams,
     .View = DrawPowerMeterTrace,
@@ -146,6 +148,7 @@ constexpr ModeRow PowerMeter = {
 constexpr ModeRow PowerMonitor = {
     .Mode = TraceMode::PowerMonitor,
     .Holder = &ChildControls::PMHolder,
+    .RightClick = HolderMenu::Power,
     .Decode = DecodePowerMonitor,
     .Params = PowerMonitorParams,
     .View = DrawPowerMonitorTrace,
@@ -155,6 +158,7 @@ constexpr ModeRow PowerMonitor = {
 constexpr ModeRow HighAccuracyPower = {
     .Mode = TraceMode::HighAccuracyPower,
     .Holder = &ChildControls::ZephraHolder,
+    .RightClick = HolderMenu::Power,
     .Decode = DecodeZephra,
     .Params = ZephraParams,
     .View = DrawZephraTrace,
@@ -172,6 +176,8 @@ constexpr ModeRow LineTest(std::uint8_t mode)
         .Mode = mode,
         .Holder = &ChildControls::E1T1Holder,
         .Markers = &Control::E1T1Markers,
+        .RightClick = HolderMenu::Chart,
+        .HasMarkersMenu = false,
         .Decode = DecodeE1T1,
         .FillCurve = FillE1T1Curve,
         .Params = E1T1Params,
@@ -183,6 +189,26 @@ constexpr ModeRow LineTest(std::uint8_t mode)
     };
 }
 
+// GSM.
+
+constexpr FileKind GSMFile = {"GSM", LoadGSMText, EncodeGSMText};
+
+constexpr ModeRow Burst = {
+    .Mode = TraceMode::GSM,
+    .Holder = &ChildControls::GSMHolder,
+    .Markers = &Control::GSMMarkers,
+    .Menu = {"menuGSMSepbar", GSMMenuItems},
+    .HasMarkersMenu = false,
+    .Decode = DecodeGSMTrace,
+    .FillCurve = FillGSMCurve,
+    .Params = GSMParams,
+    .View = DrawGSMTrace,
+    .EncodeRecord = EncodeGSMRecord,
+    .EncodeRaw = EncodeGSMRaw,
+    .Position = GSMPosition,
+    .TextFile = &GSMFile,
+};
+
 // CDMA.
 
 constexpr FileKind CDMAFile = {"CDMA", LoadCDMAText, EncodeCDMAText};
@@ -192,7 +218,9 @@ constexpr ModeRow CodeDomain = {
     .Holder = &ChildControls::CDMAHolder,
     .Markers = &Control::CDMAMarkers,
     .MarkerText = CDMAMarkerText,
-    .MenuItems = CDMAMenuItems,
+    .RightClick = HolderMenu::Chart,
+    .Menu = {"menuCDAMSepbar", CDMAMenuItems},
+    .MarkersMenuEnabled = CDMAChartHasMarkers,
     .Decode = DecodeCDMATraceByVersion,
     .DecodeToSave = DecodeCDMATrace,
     .FillCurve = FillCDMACurve,
@@ -206,25 +234,6 @@ constexpr ModeRow CodeDomain = {
     .TextFile = &CDMAFile,
 };
 
-// GSM.
-
-constexpr FileKind GSMFile = {"GSM", LoadGSMText, EncodeGSMText};
-
-constexpr ModeRow Burst = {
-    .Mode = TraceMode::GSM,
-    .Holder = &ChildControls::GSMHolder,
-    .Markers = &Control::GSMMarkers,
-    .MenuItems = GSMMenuItems,
-    .Decode = DecodeGSMTrace,
-    .FillCurve = FillGSMCurve,
-    .Params = GSMParams,
-    .View = DrawGSMTrace,
-    .EncodeRecord = EncodeGSMRecord,
-    .EncodeRaw = EncodeGSMRaw,
-    .Position = GSMPosition,
-    .TextFile = &GSMFile,
-};
-
 // EV-DO.
 
 constexpr FileKind EvDOFile = {"EVDO", LoadEvDOText, EncodeEvDOText};
@@ -235,7 +244,8 @@ constexpr ModeRow DataOptimized = {
     .Markers = &Control::EvDOMarkers,
     .MarkerText = EvDOMarkerText,
     .MarkerStandsIn = EvDOMarkerStandsIn,
-    .MenuItems = EvDOMenuItems,
+    .RightClick = HolderMenu::Chart,
+    .Menu = {"menuEvDOeSepbar", EvDOMenuItems},
     .Decode = DecodeEvDOTraceByVersion,
     .DecodeToSave = DecodeEvDOTrace,
     .FillCurve = FillEvDOCurve,
@@ -255,7 +265,8 @@ constexpr FileKind GPSTFile = {"GPST", LoadiDen_GPS_Tester_Text, nullptr};
 constexpr ModeRow EnhancedNetwork = {
     .Mode = TraceMode::IDEN,
     .Holder = &ChildControls::idenHolder,
-    .MenuItems = IDENMenuItems,
+    .RightClick = HolderMenu::Chart,
+    .Menu = {"menuIDENSepbar", IDENMenuItems},
     .Decode = DecodeIDEN,
     .FillCurve = FillIDENCurve,
     .Params = IDENParams,
@@ -266,12 +277,14 @@ constexpr ModeRow EnhancedNetwork = {
 constexpr ModeRow GPSCheck = {
     .Mode = TraceMode::GPSTester,
     .Holder = &ChildControls::GPSiDENHolder,
+    .RightClick = HolderMenu::Chart,
     .Decode = DecodeGPSTester,
     .Params = GPSTesterParams,
     .View = DrawGPSTesterTrace,
     .TextFile = &GPSTFile,
 };
 
+/// The families' parts of the chart menu stand in this order.
 constexpr ModeRow Modes[] = {
     Sweep(TraceMode::RLFrequency),
     Sweep(TraceMode::SWRFrequency),
@@ -288,8 +301,8 @@ constexpr ModeRow Modes[] = {
     HighAccuracyPower,
     LineTest(TraceMode::T1),
     LineTest(TraceMode::E1),
-    CodeDomain,
     Burst,
+    CodeDomain,
     DataOptimized,
     EnhancedNetwork,
     GPSCheck,

@@ -1,6 +1,5 @@
 // The table of measurement modes: one row a mode, one row a text file's extension. What a family does is told
-// here; its records, boxes and loaders have their names in Control, ChildControls and Plot, its menu items in
-// ChartMenu.
+// here; its records, boxes and loaders have their names in Control, ChildControls and Plot.
 #pragma once
 
 #include "control/ModeRow.h"

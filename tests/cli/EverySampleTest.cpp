@@ -64,7 +64,7 @@ TEST_F(EverySample, IsShownDrawnSavedLoadedAndSentByOneControl)
         Call("ShowParams true");
         Call("Resize 911 480");
         ExpectDrawn();
-        for (const FamilyMenuItem& item : row->MenuItems)
+        for (const FamilyMenuItem& item : row->Menu.Items)
             Call("MenuItem " + std::string(item.Name));
         Call("ShowParams false");
         Call("Resize 550 480");

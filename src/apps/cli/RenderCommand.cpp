@@ -56,7 +56,7 @@ void PlaceMarker(const TraceSlot& slot, MarkerSet& markers, const MarkerRequest&
 std::string ShowView(Control& control, const ModeRow* row, const std::string& view)
 {
     std::string known;
-    for (const FamilyMenuItem& item : row != nullptr ? row->MenuItems : std::span<const FamilyMenuItem>()) {
+    for (const FamilyMenuItem& item : row != nullptr ? row->Menu.Items : std::span<const FamilyMenuItem>()) {
         if (item.View.empty())
             continue;
         known += (known.empty() ? "" : ", ") + std::string(item.View);

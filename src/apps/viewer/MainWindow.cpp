@@ -84,7 +84,7 @@ struct Trial {
 void ShowViewOf(Control& control, const Control& other)
 {
     const ModeRow* row = CurrentRow(other);
-    for (const FamilyMenuItem& item : row != nullptr ? row->MenuItems : std::span<const FamilyMenuItem>())
+    for (const FamilyMenuItem& item : row != nullptr ? row->Menu.Items : std::span<const FamilyMenuItem>())
         if (!item.View.empty() && item.Checked(other))
             return item.Run(control);
 }

@@ -121,21 +121,26 @@ std::string CDMAMarkerText(Control& control, std::size_t marker)
            ',' + CDMAChannelType.Text(record.CDPChannelType[place]);
 }
 
+bool CDMAChartHasMarkers(const Control& control)
+{
+    return control.CDMAViewMode != SpectrumView;
+}
+
 constinit const std::array<FamilyMenuItem, 3> CDMAMenuItems = {{
-    {"menuCDMAHistogram",
+    {"menuCDMAHistogram", "CDP Histogram",
      [](Control& control) {
          PrepareCDMAHistogram(control);
          RedrawTrace(control);
      },
      [](const Control& control) { return control.CDMAViewMode < SpectrumView; }, nullptr, "codes"},
-    {"menuCDMARFSpec",
+    {"menuCDMARFSpec", "RF Spectrum Graph",
      [](Control& control) {
          PrepareCDMASpectrum(control);
          RedrawTrace(control);
      },
      [](const Control& control) { return control.CDMAViewMode == SpectrumView; },
      [](const Control& control) { return (control.CDMA.StatusByte3 & CDMAOption::RF) != 0; }, "spectrum"},
-    {"menuCDMABitReverse",
+    {"menuCDMABitReverse", "Bit Reverse",
      [](Control& control) {
          control.CDMAIs128 = !control.CDMAIs128;
          PrepareCDMAHistogram(control);

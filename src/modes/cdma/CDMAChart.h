@@ -37,6 +37,9 @@ void TakeCDMAMarkers(Control& control);
 /// written afterwards show the chart's.
 std::string CDMAMarkerText(Control& control, std::size_t marker);
 
+/// Whether markers stand in the chart on show: a spectrum has none.
+bool CDMAChartHasMarkers(const Control& control);
+
 /// The family's items of the chart menu.
 extern const std::array<FamilyMenuItem, 3> CDMAMenuItems;
 

@@ -142,28 +142,28 @@ std::string EvDOMarkerText(Control& control, std::size_t marker)
 // Each of the two code domain items has always chosen the other's word. The check marks follow what an item
 // does, so the item that was chosen is the one that is checked.
 constinit const std::array<FamilyMenuItem, 5> EvDOMenuItems = {{
-    {"menuEvDOCDPMAC", RunCDP<Data>,
+    {"menuEvDOCDPMAC", "CDP - MAC", RunCDP<Data>,
      [](const Control& control) {
          return ShowsCodes(control) && (control.EvDO.StatusByte1 & EvDOStatus::MAC) == 0;
      },
      nullptr, "data"},
-    {"menuEvDOCDPData", RunCDP<MAC>,
+    {"menuEvDOCDPData", "CDP - Data", RunCDP<MAC>,
      [](const Control& control) {
          return ShowsCodes(control) && (control.EvDO.StatusByte1 & EvDOStatus::MAC) != 0;
      },
      nullptr, "mac"},
-    {"menuEvDOOTA",
+    {"menuEvDOOTA", "Over the Air",
      [](Control& control) {
          SelectView(control, OverTheAirView, false);
          ShowSelected(control);
      },
      [](const Control& control) { return control.EvDOViewMode == OverTheAirView; }, nullptr, "air"},
-    {"menuEvDORFSpecIdle", RunRF<Idle>,
+    {"menuEvDORFSpecIdle", "RF Spectrum - Idle", RunRF<Idle>,
      [](const Control& control) {
          return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) == 0;
      },
      nullptr, "idle"},
-    {"menuEvDORFSpecActive", RunRF<Active>,
+    {"menuEvDORFSpecActive", "RF Spectrum - Active", RunRF<Active>,
      [](const Control& control) {
          return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) != 0;
      },

@@ -17,14 +17,17 @@ const GSMRecord::Curve& CurveOf(const GSMRecord& record, std::int16_t view)
 }
 
 template <std::int16_t View>
-constexpr FamilyMenuItem ItemOf(std::string_view item, std::string_view name)
+constexpr FamilyMenuItem ItemOf(std::string_view item, std::string_view caption, std::string_view view)
 {
     return {item,
+            caption,
             [](Control& control) {
                 ShowGSMCurve(control, View);
                 RedrawTrace(control);
             },
-            [](const Control& control) { return control.GSMViewMode == View; }, nullptr, name};
+            [](const Control& control) { return control.GSMViewMode == View; },
+            nullptr,
+            view};
 }
 
 } // namespace
@@ -54,9 +57,9 @@ void FillGSMCurve(Control& control)
 }
 
 constinit const std::array<FamilyMenuItem, 3> GSMMenuItems = {{
-    ItemOf<GSMView::Spectrum>("menuGSMSpec", "spectrum"),
-    ItemOf<GSMView::Frame>("menuGSMFrame", "frame"),
-    ItemOf<GSMView::Slot>("menuGSMSlot", "slot"),
+    ItemOf<GSMView::Spectrum>("menuGSMSpec", "Spectrum Mode", "spectrum"),
+    ItemOf<GSMView::Frame>("menuGSMFrame", "Frame Mode", "frame"),
+    ItemOf<GSMView::Slot>("menuGSMSlot", "Slot Mode", "slot"),
 }};
 
 } // namespace Traces

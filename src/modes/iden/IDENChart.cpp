@@ -44,15 +44,17 @@ void LayOutAgain(Control& control, bool wide)
 }
 
 template <std::int16_t View>
-constexpr FamilyMenuItem ItemOf(std::string_view item, std::string_view name)
+constexpr FamilyMenuItem ItemOf(std::string_view item, std::string_view caption, std::string_view view)
 {
     return {item,
+            caption,
             [](Control& control) {
                 ShowView(control, View);
                 LayOutAgain(control, false);
             },
             [](const Control& control) { return !control.IDENWideLayout && control.IDENViewMode == View; },
-            nullptr, name};
+            nullptr,
+            view};
 }
 
 } // namespace
@@ -103,11 +105,11 @@ void FillIDENCurve(Control& control)
 }
 
 constinit const std::array<FamilyMenuItem, 5> IDENMenuItems = {{
-    ItemOf<IDENView::Spectrum>("menuIDENSpec", "spectrum"),
-    ItemOf<IDENView::ACPR>("menuIDENACPR", "acpr"),
-    ItemOf<IDENView::PowerTime>("menuIDENPower", "power-time"),
-    ItemOf<IDENView::Demod>("menuIDENDemod", "demod"),
-    {"menuIDENAll", [](Control& control) { LayOutAgain(control, true); },
+    ItemOf<IDENView::Spectrum>("menuIDENSpec", "Spectrum", "spectrum"),
+    ItemOf<IDENView::ACPR>("menuIDENACPR", "ACPR", "acpr"),
+    ItemOf<IDENView::PowerTime>("menuIDENPower", "Power vs Time", "power-time"),
+    ItemOf<IDENView::Demod>("menuIDENDemod", "Demod", "demod"),
+    {"menuIDENAll", "All Views", [](Control& control) { LayOutAgain(control, true); },
      [](const Control& control) { return control.IDENWideLayout; },
      // Beside the pane there is no room for four.
      [](const Control& control) { return !control.ShowParams; }, "all"},
