@@ -1,5 +1,6 @@
 // A power meter's comma form of any bytes, behind the seven values that it is scrambled by. Scrambled and
 // plain must load the same, and what is loaded must save and load as the same lines.
+#include "Check.h"
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
 #include "control/Plot.h"
@@ -9,23 +10,13 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 namespace {
 
 using namespace Traces;
-
-/// Ends the run with a report when a property doesn't hold.
-void Check(bool holds, const char* property)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s\n", property);
-    std::abort();
-}
+using Fuzz::Check;
 
 std::string Saved(Plot& plot)
 {

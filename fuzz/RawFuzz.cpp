@@ -1,5 +1,6 @@
 // Raw traces of any bytes, shown by a host that keeps going after a fault: redraw, report, picture, frame,
 // clear. Two header fields that nothing interprets, byte 3 and bytes 17 to 20, choose what the host sets.
+#include "Check.h"
 #include "OwnFolder.h"
 #include "chart/Markers.h"
 #include "control/Control.h"
@@ -15,8 +16,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,15 +23,7 @@
 namespace {
 
 using namespace Traces;
-
-/// Ends the run with a report when a property doesn't hold.
-void Check(bool holds, const char* property)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s\n", property);
-    std::abort();
-}
+using Fuzz::Check;
 
 /// One call of a host, to which a fault is an answer like any other. Whether it went through.
 template <class Call>

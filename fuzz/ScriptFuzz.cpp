@@ -1,5 +1,6 @@
 // Scripts of any lines, as the command runs them. They run in an empty folder of their own that holds one raw
 // and one text trace; lines that name a place outside of it are left out.
+#include "Check.h"
 #include "OwnFolder.h"
 #include "apps/cli/Json.h"
 #include "apps/cli/Script.h"
@@ -9,7 +10,6 @@
 #include "formats/Files.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -20,15 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace Traces;
-
-/// Ends the run with a report when a property doesn't hold.
-void Check(bool holds, const char* property, std::string_view shown)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s\n%.*s\n", property, static_cast<int>(shown.size()), shown.data());
-    std::abort();
-}
+using Fuzz::Check;
 
 /// The folder that scripts run in, with a raw and a text trace.
 class Workplace {

@@ -1,5 +1,6 @@
 // Text trace files of any bytes through every loader and every text encoder. Checksums are always accepted,
 // so that the loaders proper are reached; what a loaded trace saves must load and save as the same lines.
+#include "Check.h"
 #include "control/Control.h"
 #include "control/HeadlessPlatform.h"
 #include "control/ModeTable.h"
@@ -11,8 +12,6 @@
 #include "formats/TraceMode.h"
 #include "output/Svg.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -22,15 +21,7 @@
 namespace {
 
 using namespace Traces;
-
-/// Ends the run with a report when a property doesn't hold.
-void Check(bool holds, const char* property, std::string_view shown = {})
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s\n%.*s\n", property, static_cast<int>(shown.size()), shown.data());
-    std::abort();
-}
+using Fuzz::Check;
 
 /// One temporary file a process, in memory where the system has such a folder: a verification writes it,
 /// reads it back and removes it.

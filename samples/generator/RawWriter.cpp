@@ -6,6 +6,16 @@
 
 namespace Traces::Samples {
 
+CommonHead HeadOf(const char* version, const char* date, const char* time, const char* reference)
+{
+    CommonHead head;
+    head.Version = version;
+    head.Date = date;
+    head.Time = time;
+    head.RefNumber = reference;
+    return head;
+}
+
 void RawWriter::PutByte(std::size_t offset, std::uint8_t value)
 {
     if (bytes.size() < offset)

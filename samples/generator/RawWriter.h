@@ -24,6 +24,9 @@ struct CommonHead {
     std::int16_t DataPoints = 0;
 };
 
+/// The rest is the encoder's to say.
+CommonHead HeadOf(const char* version, const char* date, const char* time, const char* reference);
+
 /// Position as the instruments send it: whole degrees x 1,000,000 plus minutes x 10,000, negative in the
 /// south and west, altitude in metres. The values of a fresh record stand for "no fix".
 struct GpsFix {

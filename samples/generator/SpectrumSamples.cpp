@@ -12,16 +12,6 @@ namespace {
 constexpr GpsFix HillSite{48'082'500, 11'345'000, 519};    // north, east
 constexpr GpsFix CoastSite{-12'027'800, -77'025'500, 154}; // south, west
 
-CommonHead Head(const char* version, const char* date, const char* time, const char* reference)
-{
-    CommonHead head;
-    head.Version = version;
-    head.Date = date;
-    head.Time = time;
-    head.RefNumber = reference;
-    return head;
-}
-
 std::int16_t PeakOf(const std::vector<double>& levels)
 {
     return static_cast<std::int16_t>(std::max_element(levels.begin(), levels.end()) - levels.begin());
@@ -33,7 +23,7 @@ const std::vector<Emitter> Carriers = {{445.0e6, -30}, {447.5e6, -50}, {452.5e6,
 Sample CarrierScan(double resolutionHz, const char* file, const char* shows, const char* reference)
 {
     SpaSettings settings;
-    settings.Head = Head("3.20", "03/14/2012", "09:26:53", reference);
+    settings.Head = HeadOf("3.20", "03/14/2012", "09:26:53", reference);
     settings.Sweep = {440e6, 455e6, 401};
     settings.Analyzer = {resolutionHz, resolutionHz / 3, 10};
     settings.RefDbm = -20;
@@ -50,7 +40,7 @@ Sample CarrierScan(double resolutionHz, const char* file, const char* shows, con
 Sample FmBand()
 {
     SpaSettings settings;
-    settings.Head = Head("3.15", "07/21/2010", "18:03:44", "FM TOWN");
+    settings.Head = HeadOf("3.15", "07/21/2010", "18:03:44", "FM TOWN");
     settings.Sweep = {87.5e6, 108e6, 401};
     settings.Analyzer = {30e3, 10e3, 0};
     settings.RefDbm = -30;
@@ -95,7 +85,7 @@ std::vector<Emitter> GsmCell()
 Sample GsmBand()
 {
     SpaSettings settings;
-    settings.Head = Head("3.20", "10/02/2013", "14:40:09", "CELL 1207");
+    settings.Head = HeadOf("3.20", "10/02/2013", "14:40:09", "CELL 1207");
     settings.Sweep = {935e6, 960e6, 401};
     settings.Analyzer = {30e3, 10e3, 5};
     settings.RefDbm = -40;
@@ -118,7 +108,7 @@ Sample GsmBand()
 Sample Interferer()
 {
     SpaSettings settings;
-    settings.Head = Head("3.20", "10/02/2013", "15:12:30", "UPLINK NOISE");
+    settings.Head = HeadOf("3.20", "10/02/2013", "15:12:30", "UPLINK NOISE");
     settings.Sweep = {890e6, 915e6, 201};
     settings.Analyzer = {100e3, 30e3, 0};
     settings.RefDbm = -50;
@@ -145,7 +135,7 @@ Sample Interferer()
 Sample GsmChannels()
 {
     CsSettings settings;
-    settings.Head = Head("3.20", "10/02/2013", "14:52:18", "CELL 1207");
+    settings.Head = HeadOf("3.20", "10/02/2013", "14:52:18", "CELL 1207");
     settings.Sweep = {GsmHz(58) - 100e3, GsmHz(77) + 100e3, 401};
     settings.Analyzer = {30e3, 10e3, 5};
     settings.RefDbm = -40;
@@ -164,7 +154,7 @@ Sample GsmChannels()
 Sample WidebandChannels()
 {
     CsSettings settings;
-    settings.Head = Head("3.20", "05/30/2014", "11:05:41", "WIDE 3");
+    settings.Head = HeadOf("3.20", "05/30/2014", "11:05:41", "WIDE 3");
     settings.Head.Model = "TRC-50";
     settings.Sweep = {2110e6, 2170e6, 401};
     settings.Analyzer = {100e3, 100e3, 10};
@@ -198,7 +188,7 @@ std::vector<Emitter> BandAt(std::size_t sweep, const std::vector<double>& hops)
 Sample Spectrogram(std::size_t count, const char* file, const char* shows, const char* reference)
 {
     AnalyzerSettings settings;
-    settings.Head = Head("3.20", "04/08/2015", "22:17:00", reference);
+    settings.Head = HeadOf("3.20", "04/08/2015", "22:17:00", reference);
     settings.Sweep = {440e6, 450e6, 401};
     settings.Analyzer = {30e3, 10e3, 0};
     settings.RefDbm = -50;

@@ -29,16 +29,6 @@ VnaSettings SweepSettings(VnaMode mode, const Sweep& sweep, const Cable& cable)
     return settings;
 }
 
-CommonHead Head(const char* version, const char* date, const char* time, const char* reference)
-{
-    CommonHead head;
-    head.Version = version;
-    head.Date = date;
-    head.Time = time;
-    head.RefNumber = reference;
-    return head;
-}
-
 // A panel antenna of the 900 MHz band on its jumper, as the two samples of that site see it.
 constexpr Cable GsmJumper{3, 0.85, 0.14};
 
@@ -53,7 +43,7 @@ Sample BandEdges()
     const Sweep sweep{880e6, 960e6, 2};
     const auto points = Measure(sweep, {0.004, 0.4e-9, 2e-4, 11}, GsmAntenna);
     VnaSettings settings = SweepSettings(VnaMode::ReturnLoss, sweep, GsmJumper);
-    settings.Head = Head("3.15", "04/17/2009", "08:41:52", "EDGES");
+    settings.Head = HeadOf("3.15", "04/17/2009", "08:41:52", "EDGES");
     settings.ScaleBottom = 20'000;
     settings.SingleLimit = -14;
     settings.Markers = {DeepestPoint(points)};
@@ -70,7 +60,7 @@ Sample ShortedJumper()
     const auto points =
         Measure(sweep, {0, 0, 1e-4, 12}, [&](double hz) { return ThroughCable(AtShort(), jumper, hz); });
     VnaSettings settings = SweepSettings(VnaMode::ReturnLoss, sweep, jumper);
-    settings.Head = Head("3.15", "11/02/2009", "15:07:33", "SHORT 2M");
+    settings.Head = HeadOf("3.15", "11/02/2009", "15:07:33", "SHORT 2M");
     settings.Head.Model = "TRC-50";
     settings.ScaleBottom = 5'000;
     settings.SingleLimit = -1;
@@ -89,7 +79,7 @@ Sample OpenJumper()
         return ThroughCable(ThroughConnector(AtOpen(), 0.06e-12, hz), jumper, hz);
     });
     VnaSettings settings = SweepSettings(VnaMode::ReturnLoss, sweep, jumper);
-    settings.Head = Head("3.20", "02/26/2013", "10:15:00", "OPEN.VNA");
+    settings.Head = HeadOf("3.20", "02/26/2013", "10:15:00", "OPEN.VNA");
     settings.Head.HeaderWord = 7;
     settings.ScaleBottom = 10'000;
     settings.SingleLimit = -1;
@@ -102,7 +92,7 @@ Sample GsmBand()
     const Sweep sweep{870e6, 970e6, 201};
     const auto points = Measure(sweep, {0.004, 0.4e-9, 2e-4, 14}, GsmAntenna);
     VnaSettings settings = SweepSettings(VnaMode::ReturnLoss, sweep, GsmJumper);
-    settings.Head = Head("3.15", "04/17/2009", "08:44:10", "SITE17-SECTOR-B1");
+    settings.Head = HeadOf("3.15", "04/17/2009", "08:44:10", "SITE17-SECTOR-B1");
     settings.ScaleBottom = 30'000;
     settings.SingleLimit = -14;
     settings.LimitSegments = {{{1, 1, 870'000'000, -8, 880'000'000, -14},
@@ -124,7 +114,7 @@ Sample MatchedLoad()
         return ThroughCable(ThroughConnector(AtLoad(50.35), 0.02e-12, hz), adapter, hz);
     });
     VnaSettings settings = SweepSettings(VnaMode::ReturnLoss, sweep, adapter);
-    settings.Head = Head("3.20", "09/30/2014", "13:22:47", "LOAD CHECK");
+    settings.Head = HeadOf("3.20", "09/30/2014", "13:22:47", "LOAD CHECK");
     settings.ScaleBottom = 60'000;
     settings.SingleLimit = -35;
     settings.LimitSegments = {{{1, 1, 100'000'000, -35, 2'500'000'000, -35}}};
@@ -145,7 +135,7 @@ Sample DualBand()
         return ThroughConnector(ThroughCable(antenna, jumper, hz), 0.05e-12, hz);
     });
     VnaSettings settings = SweepSettings(VnaMode::ReturnLoss, sweep, jumper);
-    settings.Head = Head("3.20", "06/11/2015", "17:58:21", "DUAL900-1800.VNA");
+    settings.Head = HeadOf("3.20", "06/11/2015", "17:58:21", "DUAL900-1800.VNA");
     settings.ScaleBottom = 35'000;
     settings.SingleLimit = -12;
     settings.LimitSegments = {{{1, 1, 880'000'000, -12, 960'000'000, -12},
@@ -168,7 +158,7 @@ Sample WhipSwr()
         return ThroughCable(AtLoad(SeriesImpedance(SeriesCircuit(38, 147.2e6, 9), hz)), cable, hz);
     });
     VnaSettings settings = SweepSettings(VnaMode::Swr, sweep, cable);
-    settings.Head = Head("3.15", "07/05/2008", "19:30:12", "WHIP 2M");
+    settings.Head = HeadOf("3.15", "07/05/2008", "19:30:12", "WHIP 2M");
     settings.Head.Model = "TRC-50";
     settings.ScaleTop = 3'000;
     settings.SingleLimit = 2;
@@ -186,7 +176,7 @@ Sample LoopSwr()
         return ThroughCable(AtLoad(ParallelImpedance(ParallelCircuit(58, 7.085e6, 250), hz)), cable, hz);
     });
     VnaSettings settings = SweepSettings(VnaMode::Swr, sweep, cable);
-    settings.Head = Head("3.20", "12/27/2016", "21:04:59", "LOOP40M.VNA");
+    settings.Head = HeadOf("3.20", "12/27/2016", "21:04:59", "LOOP40M.VNA");
     settings.ScaleTop = 4'000;
     settings.SingleLimit = 2;
     settings.LimitSegments = {{{1, 1, 7'080'000, 2, 7'090'000, 2}}};
@@ -206,7 +196,7 @@ Sample UmtsSwr()
         return ThroughConnector(ThroughCable(antenna, jumper, hz), 0.03e-12, hz);
     });
     VnaSettings settings = SweepSettings(VnaMode::Swr, sweep, jumper);
-    settings.Head = Head("3.20", "03/08/2012", "11:36:05", "UMTS-A2.VNA");
+    settings.Head = HeadOf("3.20", "03/08/2012", "11:36:05", "UMTS-A2.VNA");
     settings.ScaleTop = 2'000;
     settings.SingleLimit = 2;
     settings.LimitSegments = {
@@ -231,7 +221,7 @@ Sample ShortedFeeder()
     settings.AveCableLoss = 0;
     for (const Complex point : points)
         settings.AveCableLoss -= 10 * std::log10(std::abs(point)) / static_cast<double>(points.size());
-    settings.Head = Head("3.20", "05/19/2011", "09:12:38", "FEEDER-3.VNA");
+    settings.Head = HeadOf("3.20", "05/19/2011", "09:12:38", "FEEDER-3.VNA");
     settings.ScaleBottom = 5'000;
     settings.SingleLimit = -4;
     settings.LimitSegments = {{{1, 1, 100'000'000, -4, 2'100'000'000, -4}}};

@@ -37,12 +37,14 @@ void DrawResultCells(ChartSurface& holder, float lastEdge)
         holder.Line(x, top, x, bottom, Black);
 }
 
-void DrawResult(ChartSurface& holder, const Result& result)
+void DrawResults(ChartSurface& holder, std::span<const Result> results)
 {
     constexpr int labelSize = 10;
     constexpr int valueBelow = 16;
-    DrawTextAt(holder, result.Label, result.X, result.Y, labelSize, false, Black);
-    DrawTextAt(holder, result.Value, result.X, result.Y + valueBelow, result.Size, false, Blue);
+    for (const Result& result : results) {
+        DrawTextAt(holder, result.Label, result.X, result.Y, labelSize, false, Black);
+        DrawTextAt(holder, result.Value, result.X, result.Y + valueBelow, result.Size, false, Blue);
+    }
 }
 
 } // namespace Traces

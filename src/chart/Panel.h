@@ -4,6 +4,7 @@
 
 #include "control/ChartSurface.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,6 @@ struct Result {
     std::string Label, Value;
     int Size; ///< of the value
 };
-void DrawResult(ChartSurface& holder, const Result& result);
+void DrawResults(ChartSurface& holder, std::span<const Result> results);
 
 } // namespace Traces

@@ -66,8 +66,7 @@ void DrawSpectrumResults(ChartSurface& holder, const CDMARecord& record)
         {372, 364, "Meas Occ Bw (kHz)", ValueText(record.OccupiedBandwidth, "#0"), size},
         {372, 424, "Noise Floor (dB)", ValueText(record.NoiseFloor), size},
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
 }
 
 /// A row of a list: a bar that ends at 490 for the strongest, and the value behind it.
@@ -143,8 +142,7 @@ void DrawOverTheAirResults(ChartSurface& holder, const Control& control)
         {190, 424, "Pilot Dominance(dB)", ValueText(record.PilotDominance), size},
         {372, 424, "Multipath Pwr (dB)", ValueText(record.MultipathPower), size},
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
     DrawDeltaList(holder, control, {364, 382, 400});
 }
 
@@ -161,8 +159,7 @@ void DrawCodeDomainResults(ChartSurface& holder, const Control& control)
         {190, 424, "Noise Floor (dB)", ValueText(record.NoiseFloor), size},
         {372, 364, "Freq Error (Hz)", ValueText(record.FrequencyError, "#0"), size},
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
     if ((record.StatusByte3 & CDMAOption::OverTheAir) == 0) {
         DrawTextAt(holder, "PN Offset (x64 chip)", 372, 424, LabelSize, false, Black);
         DrawTextAt(holder, record.SearchMode, 372, 454, 16, false, Blue);

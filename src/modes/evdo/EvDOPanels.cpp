@@ -75,8 +75,7 @@ void DrawSpectrumResults(ChartSurface& holder, const EvDORecord& record)
         slotActivity,
         slotPower,
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
 }
 
 void DrawDataResults(ChartSurface& holder, const EvDORecord& record)
@@ -94,8 +93,7 @@ void DrawDataResults(ChartSurface& holder, const EvDORecord& record)
         {372, 364, "EVM", FormatValue(record.EVM, "#0.00"), LargeSize},
         {372, 424, "Measured Modulation", Modulation.Text(record.MeasuredDataModulationType), 16},
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
 }
 
 void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
@@ -107,8 +105,7 @@ void DrawMACResults(ChartSurface& holder, const EvDORecord& record)
         {190, 424, "Freq Error (Hz)", FormatValue(record.FrequencyError, "#0"), LargeSize},
         {372, 364, "Data Modulation", ModulationText(record), 16},
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
     constexpr int rows[] = {424, 442, 460};
     for (std::size_t i = 0; i < std::size(rows); ++i) {
         const std::string pn =
@@ -127,8 +124,7 @@ void DrawScanResults(ChartSurface& holder, const EvDORecord& record)
         {372, 364, "Freq Error (Hz)", FormatValue(record.FrequencyError, "#0"), LargeSize},
         {372, 424, "Multipath Pwr (dB)", FormatValue(record.MultipathPower, "#0.00"), LargeSize},
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
 }
 
 /// A row of a table over the air: number, bar, delay where the table has it, power.

@@ -52,8 +52,7 @@ void DrawBand(ChartSurface& holder, const GSMRecord& record)
          known(record.MeasuredTSC != GSMRecord::NoTSC, FormatValue(std::int32_t{record.MeasuredTSC}, "#0")),
          size},
     };
-    for (const Result& result : results)
-        DrawResult(holder, result);
+    DrawResults(holder, results);
 }
 
 /// Where a normal burst has to stay: below the outer lines, and above the inner ones while it is on.

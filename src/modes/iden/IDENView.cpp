@@ -171,13 +171,13 @@ void DrawBand(Control& control)
     ChartSurface& holder = control.idenHolder;
     DrawResultCells(holder);
     constexpr int lefts[] = {6, 190, 372};
-    const auto results = ResultsOf(control.IDEN, control.IDENViewMode);
-    for (std::size_t cell = 0; cell < results.size(); ++cell) {
-        const int size = results[cell].Text.size() > longValue ? longValueSize : valueSize;
-        const int y = cell < std::size(lefts) ? 364 : 424;
-        DrawResult(holder,
-                   {lefts[cell % std::size(lefts)], y, results[cell].Label, results[cell].Text, size});
+    std::vector<Result> results;
+    for (const auto& [label, text] : ResultsOf(control.IDEN, control.IDENViewMode)) {
+        const int left = lefts[results.size() % std::size(lefts)];
+        const int top = results.size() < std::size(lefts) ? 364 : 424;
+        results.push_back({left, top, label, text, text.size() > longValue ? longValueSize : valueSize});
     }
+    DrawResults(holder, results);
 }
 
 void DrawOneView(Control& control)
