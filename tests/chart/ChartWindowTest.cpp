@@ -12,10 +12,9 @@ namespace {
 
 TEST(NiceRanges, RoundOutwardsAndStepByTheirDecade)
 {
-    struct Case {
+    const struct {
         float ymin, ymax, low, high, step;
-    };
-    static constexpr Case cases[] = {
+    } cases[] = {
         {-13.2F, -4.7F, -14, -4, 2},
         {0.021F, 0.094F, 0.02F, 0.1F, 0.02F},
         {0, 1, 0, 1, 0.2F},

@@ -5,7 +5,6 @@
 #include "support/RawBuilder.h"
 #include "support/TraceFiles.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -43,32 +42,20 @@ TEST_F(Redraw, AFaultOfTheViewComesOutOfAHostsCallButNotOfALoaderOrAResize)
 
 TEST_F(Redraw, WhateverChangesThePictureAsksForARepaint)
 {
-    const struct {
-        const char* Name;
-        std::function<void()> Change;
-    } cases[] = {
-        {"a trace",
-         [&] {
-             plot.ShowTrace(RawSweep(0, {1000, 10000}).Bytes());
-         }},
-        {"a redraw", [&] { plot.RedrawTrace(); }},
-        {"a resize", [&] { plot.Resize(300, 200); }},
-        {"an emptied chart", [&] { plot.Clear(); }},
-        {"a trace of an unknown mode",
-         [&] {
-             plot.ShowTrace(RawSweep(200, {1, 2}).Bytes());
-         }},
-        {"a file of an unknown mode, which hides the holder",
-         [&] { plot.LoadVNAText(WithChecksum("Mode:\tUnknown(200)\r\nDataPoints:\t0\r\n"), {}); }},
-    };
-    for (const auto& each : cases) {
+    const auto repaints = [&](const auto& change) {
         platform.Repaints = 0;
-        each.Change();
-        EXPECT_GT(platform.Repaints, 0) << each.Name;
-    }
-    platform.Repaints = 0;
-    plot.ShowTrace(RawSweep(0, {}).Bytes().first(90));
-    EXPECT_EQ(platform.Repaints, 0) << "a refused trace leaves the picture alone";
+        change();
+        return platform.Repaints;
+    };
+    EXPECT_GT(repaints([&] { plot.ShowTrace(RawSweep(0, {1000, 10000}).Bytes()); }), 0);
+    EXPECT_GT(repaints([&] { plot.RedrawTrace(); }), 0);
+    EXPECT_GT(repaints([&] { plot.Resize(300, 200); }), 0);
+    EXPECT_GT(repaints([&] { plot.Clear(); }), 0);
+    EXPECT_GT(repaints([&] { plot.ShowTrace(RawSweep(200, {1, 2}).Bytes()); }), 0) << "an unknown mode";
+    const std::string unknown = WithChecksum("Mode:\tUnknown(200)\r\nDataPoints:\t0\r\n");
+    EXPECT_GT(repaints([&] { plot.LoadVNAText(unknown, {}); }), 0) << "which hides the holder";
+    EXPECT_EQ(repaints([&] { plot.ShowTrace(RawSweep(0, {}).Bytes().first(90)); }), 0)
+        << "a refused trace leaves the picture alone";
 }
 
 TEST_F(Redraw, CurvesWithPointsThatAreNoNumbersAreFaults)
