@@ -113,16 +113,5 @@ TEST_F(Surfaces, ASurfaceWithoutExtentTakesTextAndMouse)
     EXPECT_EQ(UserPoint(box, 5, 5).X, 100);
 }
 
-TEST_F(Surfaces, ABorderMovesWhatStandsInIt)
-{
-    state.BorderStyle = MyBorderStyles::pbRaised;
-    state.ShowParams = true;
-    Resize(state, 915, 484);
-    EXPECT_EQ(state.Surface.ScaleWidth, 915);
-    EXPECT_EQ(state.VNAHolder.Left, 2);
-    EXPECT_EQ(state.ParamBox.Left, 562);
-    EXPECT_EQ(state.VNABox.DeviceWidth(), 542);
-}
-
 } // namespace
 } // namespace Traces

@@ -118,6 +118,8 @@ TEST_F(HandingOn, ABorderMovesTheHoldersAndDrawsItsFrame)
     plot.ShowParams(true);
     plot.Resize(915, 484);
     EXPECT_EQ(state.Surface.Picture().size(), 1 + 16U) << "a frame around the pane as well";
+    EXPECT_EQ(state.ParamBox.Left, 562);
+    EXPECT_EQ(state.VNABox.DeviceWidth(), 542);
     plot.BorderStyle(MyBorderStyles::pbflat);
     EXPECT_TRUE(state.Surface.Picture().empty());
 }
