@@ -4,7 +4,6 @@
 #include "formats/HostFault.h"
 #include "support/ShownTrace.h"
 
-#include <cmath>
 #include <limits>
 
 namespace Traces {
@@ -53,6 +52,10 @@ TEST(NiceRanges, RoundOutwardsAndStepByTheirDecade)
 
 class ChartWindows : public Testing::ShownTrace {
 protected:
+    ChartWindows() { box.AutoRedraw = true; }
+
+    ChartSurface& box = state.VNABox;
+
     void Curve(std::vector<float> x, std::vector<float> y)
     {
         SetSlotLength(state, 0, static_cast<std::int16_t>(x.size()));
@@ -118,8 +121,6 @@ TEST_F(ChartWindows, CurvesThatNoAxisHoldsAreFaults)
 
 TEST_F(ChartWindows, ChartsWithoutASpanDrawNothing)
 {
-    ChartSurface& box = state.VNABox;
-    box.AutoRedraw = true;
     Curve({100, 100}, {1, 2});
     state.YScaleTop = 1;
     EXPECT_FALSE(DrawChart(state, box, state.VNAMarkers));
@@ -131,7 +132,6 @@ TEST_F(ChartWindows, ChartsWithoutASpanDrawNothing)
 
 TEST_F(ChartWindows, TheGridHasTenDivisionsEvenWhereFloatsAreCoarse)
 {
-    ChartSurface& box = state.VNABox;
     for (const float start : {0.0F, 100.0F, 4E9F}) {
         box.AutoRedraw = true;
         box.Cls();
@@ -146,8 +146,6 @@ TEST_F(ChartWindows, TheGridHasTenDivisionsEvenWhereFloatsAreCoarse)
 
 TEST_F(ChartWindows, TheGridHasTenDivisionsUnderReversedLimitsToo)
 {
-    ChartSurface& box = state.VNABox;
-    box.AutoRedraw = true;
     Curve({100, 200}, {-110, -110});
     state.YScaleTop = -120;
     state.YScaleBottom = -100;
@@ -159,8 +157,6 @@ TEST_F(ChartWindows, TheGridHasTenDivisionsUnderReversedLimitsToo)
 
 TEST_F(ChartWindows, MarkersAreClampedForGoodAndDrawnWhereTheyStand)
 {
-    ChartSurface& box = state.VNABox;
-    box.AutoRedraw = true;
     Curve({100, 150, 200}, {0, 1, 2});
     box.Scale(100, 2, 200, 0);
     state.VNAMarkers.MarkerIndex = {500, -2, 1, 0, 0, 0};

@@ -5,7 +5,6 @@
 #include "control/Control.h"
 
 #include <map>
-#include <set>
 
 namespace Traces::Cli {
 namespace {

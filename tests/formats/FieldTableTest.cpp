@@ -117,19 +117,14 @@ TEST(FieldTables, ALoadKeepsWhatIsMissingOrDoesNotFit)
     } cases[] = {
         {"Limit:\t16777217", Through::FieldType, 16777217, 2, 3},
         {"Limit:\t16777217", Through::Float, 16777216, 2, 3}, // 24 bits of a float's mantissa
-        {"Limit:\t2147483647", Through::FieldType, 2147483647, 2, 3},
-        {"Limit:\t2147483647", Through::Float, 1, 2, 3}, // rounds to what no longer fits
-        {"Limit:\t&hFFFFFFFF", Through::FieldType, -1, 2, 3},
+        {"Limit:\t2147483647", Through::Float, 1, 2, 3},      // rounds to what no longer fits
         {"Level:\t&hFFFF", Through::FieldType, 1, -1, 3},
         {"Level:\t&hFFFF", Through::Float, 1, 2, 3}, // 65535 as a float
         {"Level:\t32768", Through::FieldType, 1, 2, 3},
-        {"Level:\t32768", Through::Float, 1, 2, 3},
-        {"Level:\t2.5", Through::Float, 1, 2, 3},
         {"Level:\t3.5", Through::FieldType, 1, 4, 3},
         {"Status 2:\t256", Through::FieldType, 1, 2, 3},
         {"Status 2:\t-1", Through::Float, 1, 2, 3},
         {"Status 2:\t255", Through::Float, 1, 2, 255},
-        {"Status 2:\t", Through::FieldType, 1, 2, 3},
         {"Status 2:\ttwo", Through::Float, 1, 2, 3},
     };
     for (const auto& each : cases) {

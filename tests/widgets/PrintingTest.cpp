@@ -3,7 +3,6 @@
 #include "widgets/ShownPlot.h"
 
 #include <QPageSize>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProcess>
 
