@@ -95,13 +95,10 @@ TEST(Text, ShowsBytesAndBits)
 
 TEST(Text, KeepsAllByteValuesThroughUtf8)
 {
-    std::string all;
     for (int byte = 0; byte < 256; ++byte) {
         const std::string one(1, static_cast<char>(byte));
         EXPECT_EQ(AnsiFromUtf8(Utf8FromAnsi(one)), one) << byte;
-        all += one;
     }
-    EXPECT_EQ(AnsiFromUtf8(Utf8FromAnsi(all)), all);
     EXPECT_EQ(Utf8FromAnsi("\x80 5\xB0 \xE4\xFF"), "\xE2\x82\xAC 5\xC2\xB0 \xC3\xA4\xC3\xBF"); // Euro, degree
     EXPECT_EQ(Utf8FromAnsi("\x8A\x99\x9F\x81"), "\xC5\xA0\xE2\x84\xA2\xC5\xB8\xC2\x81");
 }
