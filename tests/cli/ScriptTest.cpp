@@ -134,7 +134,8 @@ TEST_F(ScriptCalls, ShowTheStateUnderTheFieldsNames)
         {"HeaderByte3", 7},      {"HeaderWord", 0x1020304},
         {"YScaleTop", 1.5},      {"YScaleBottom", -30.25},
         {"ShowParams", -1},      {"TraceSaved", 0},
-        {"GridColor", 0xC8C8C8},
+        {"GridColor", 0xC8C8C8}, {"Model", "TRC-100"},
+        {"Version", "3.20"},     {"Date", "11/22/2026"},
     };
     for (const auto& [name, value] : expected)
         EXPECT_EQ(state.value(name, Json()), value) << name;
@@ -229,11 +230,8 @@ TEST_F(ScriptCalls, DrawPrintsEveryFieldOfEveryCommand)
 TEST_F(ScriptCalls, MeasureTextsOnASurfaceWithoutChangingIt)
 {
     EXPECT_EQ(Call("TextWidth EvDOTopBox abc 10")["error"], "EvDOTopBox has no width yet");
-    // At twice the pixels a size in points takes half as many units.
     const double width = ResultOf("TextWidth VNAHolder \"10 dB\" 10");
-    Call("Resize 1100 960");
-    EXPECT_NEAR(ResultOf("TextWidth VNAHolder \"10 dB\" 10").get<double>(), width / 2, 1e-5);
-    EXPECT_NEAR(ResultOf("TextWidth VNAHolder \"10 dB\" 20").get<double>(), width, 1e-5);
+    EXPECT_NEAR(ResultOf("TextWidth VNAHolder \"10 dB\" 20").get<double>(), 2 * width, 1e-5);
     EXPECT_EQ(script.Instance().VNAHolder.Font.Size, Font{}.Size);
 }
 
