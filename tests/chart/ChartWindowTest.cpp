@@ -13,6 +13,7 @@ TEST(NiceRanges, RoundOutwardsAndStepByTheirDecade)
 {
     const struct {
         float ymin, ymax, low, high, step;
+        bool round = true;
     } cases[] = {
         {-13.2F, -4.7F, -14, -4, 2},
         {0.021F, 0.094F, 0.02F, 0.1F, 0.02F},
@@ -31,23 +32,17 @@ TEST(NiceRanges, RoundOutwardsAndStepByTheirDecade)
         {5, 3, -1, 1, 2},
         {-0.001F, 0.0005F, -0.001F, 0.001F, 0.00025F},
         {1E-37F, 2E-37F, 1E-37F, 2E-37F, 2E-38F},
+        {-13.2F, -4.7F, -13.2F, -4.7F, 2, false},
     };
     for (const auto& c : cases) {
         float ymin = c.ymin;
         float ymax = c.ymax;
         float step = 0;
-        NiceRange(ymin, ymax, step, true);
-        EXPECT_FLOAT_EQ(ymin, c.low) << c.ymin << " to " << c.ymax;
-        EXPECT_FLOAT_EQ(ymax, c.high) << c.ymin << " to " << c.ymax;
+        NiceRange(ymin, ymax, step, c.round);
+        EXPECT_EQ(ymin, c.low) << c.ymin << " to " << c.ymax;
+        EXPECT_EQ(ymax, c.high) << c.ymin << " to " << c.ymax;
         EXPECT_FLOAT_EQ(step, c.step) << c.ymin << " to " << c.ymax;
     }
-    float ymin = -13.2F;
-    float ymax = -4.7F;
-    float step = 0;
-    NiceRange(ymin, ymax, step, false);
-    EXPECT_EQ(ymin, -13.2F);
-    EXPECT_EQ(ymax, -4.7F);
-    EXPECT_EQ(step, 2);
 }
 
 class ChartWindows : public Testing::ShownTrace {

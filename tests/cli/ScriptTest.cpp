@@ -43,6 +43,7 @@ TEST_F(ScriptCalls, ReplyWithResultsFaultsAndErrorsAndGoOn)
         {"count", R"({"call":"count","result":3})"},
         {"ShowTrace " + empty, R"({"call":"ShowTrace","result":0})"},
         {"Clear", R"({"call":"Clear"})"},
+        {"Refresh", R"({"call":"Refresh"})"},
         {R"(ConvToDBCS "  two words ")", R"({"call":"ConvToDBCS","result":"two words"})"},
         // properties: the name alone reads, with a value it writes
         {"SetIndex -8", R"({"call":"SetIndex"})"},

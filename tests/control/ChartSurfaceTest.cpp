@@ -26,8 +26,7 @@ TEST_F(Surfaces, OverlayAndPictureAreErasedApart)
     EXPECT_TRUE(box.Overlay().empty());
     EXPECT_EQ(box.Picture(), finished);
     EXPECT_EQ(box.PictureRevision(), revision);
-    EXPECT_EQ(box.CurrentX, 100);
-    EXPECT_EQ(box.CurrentY, 0);
+    EXPECT_EQ((Point{box.CurrentX, box.CurrentY}), (Point{100, 0}));
     box.AutoRedraw = true;
     box.Cls();
     EXPECT_TRUE(box.Picture().empty());

@@ -64,12 +64,12 @@ TEST_F(HandingOn, SubTitlesAreTakenWhenTheyHoldSomething)
     platform.Answers = {"Mast 3", ""};
     RunMenuItem(state, {"menuSubTitle"}, false);
     EXPECT_EQ(plot.TraceName(), "Mast 3");
-    EXPECT_EQ(platform.Messages[0].Title, "Sub-title Entry");
-    EXPECT_EQ(platform.Messages[0].Text, "Enter a subtitle for this plot.");
-    RunMenuItem(state, {"menuSubTitle"}, false);
-    EXPECT_EQ(plot.TraceName(), "Mast 3") << "empty";
-    RunMenuItem(state, {"menuSubTitle"}, false);
-    EXPECT_EQ(plot.TraceName(), "Mast 3") << "cancelled";
+    EXPECT_EQ(platform.Messages[0].Title + ": " + platform.Messages[0].Text,
+              "Sub-title Entry: Enter a subtitle for this plot.");
+    for (const char* answer : {"empty", "cancelled"}) {
+        RunMenuItem(state, {"menuSubTitle"}, false);
+        EXPECT_EQ(plot.TraceName(), "Mast 3") << answer;
+    }
 }
 
 TEST_F(HandingOn, APageTakesPercentages)
