@@ -7,47 +7,27 @@
 namespace Traces {
 namespace {
 
-/// The lookups by plain searches through the whole text, as the rules are told.
-struct PlainSearch {
-    std::string Text;
+/// What stands behind a place by plain searches through the whole text, as the rules are told.
+std::optional<std::string> ValueBehind(const std::string& text, std::size_t place)
+{
+    if (place == std::string::npos)
+        return std::nullopt;
+    const std::size_t tab = text.find('\t', place);
+    const std::size_t begin = tab == std::string::npos ? 0 : tab + 1;
+    return text.substr(begin, std::min(text.find('\r', begin), text.size()) - begin);
+}
 
-    std::string ValueBehind(std::size_t place) const
-    {
-        const std::size_t tab = Text.find('\t', place);
-        const std::size_t begin = tab == std::string::npos ? 0 : tab + 1;
-        const std::size_t end = Text.find('\r', begin);
-        return Text.substr(begin, end == std::string::npos ? end : end - begin);
-    }
-
-    std::string ParamValue(const std::string& key) const
-    {
-        const std::size_t feed = Text.find('\n' + key);
-        return feed == std::string::npos ? "" : ValueBehind(feed);
-    }
-
-    std::vector<std::string> ParamFields(const std::string& key) const
-    {
-        const std::size_t place = Text.find(key);
-        if (place == std::string::npos)
-            return {};
-        std::vector<std::string> fields(1);
-        for (const char c : ValueBehind(place)) {
-            if (c == '\t')
-                fields.emplace_back();
-            else
-                fields.back() += c;
-        }
-        return fields;
-    }
-};
-
-std::vector<std::string> FieldsOf(const TraceText& text, const std::string& key)
+/// The fields of a line, with the tabs between them again.
+std::optional<std::string> JoinedFields(const TraceText& text, std::string_view key)
 {
     LineFields fields;
     if (!text.ParamFields(key, fields))
-        return {};
+        return std::nullopt;
     EXPECT_EQ(fields.UpperIndex, static_cast<int>(fields.Parts.size()) - 1);
-    return {fields.Parts.begin(), fields.Parts.end()};
+    std::string joined(fields.Parts[0]);
+    for (std::size_t i = 1; i < fields.Parts.size(); ++i)
+        joined.append("\t").append(fields.Parts[i]);
+    return joined;
 }
 
 std::string Letters(std::mt19937& random, std::string_view alphabet, std::size_t longest)
@@ -117,18 +97,19 @@ TEST(TraceTexts, EveryLookupFindsWhatAPlainSearchFinds)
     std::mt19937 random(7); // NOLINT(cert-msc51-cpp): the same texts at every run
     int found = 0;
     for (int t = 0; t < texts; ++t) {
-        const PlainSearch plain{Letters(random, t % 2 == 0 ? "ab:\t\r\n01" : "a:\n\n\t =", 60)};
-        const TraceText text(plain.Text);
+        const std::string plain = Letters(random, t % 2 == 0 ? "ab:\t\r\n01" : "a:\n\n\t =", 60);
+        const TraceText text(plain);
         for (int k = 0; k < keysPerText; ++k) {
             // Every other key is a piece of the text, so that long ones are found too.
             std::string key = Letters(random, "ab:01", 6);
-            if (k % 2 == 0 && !plain.Text.empty())
-                key = plain.Text.substr(random() % plain.Text.size(), random() % 9);
-            found += !plain.ParamValue(key).empty();
+            if (k % 2 == 0 && !plain.empty())
+                key = plain.substr(random() % plain.size(), random() % 9);
+            const std::string value = ValueBehind(plain, plain.find('\n' + key)).value_or("");
+            found += !value.empty();
             const std::string shown =
-                "text " + testing::PrintToString(plain.Text) + " key " + testing::PrintToString(key);
-            ASSERT_EQ(text.ParamValue(key), plain.ParamValue(key)) << shown;
-            ASSERT_EQ(FieldsOf(text, key), plain.ParamFields(key)) << shown;
+                "text " + testing::PrintToString(plain) + " key " + testing::PrintToString(key);
+            ASSERT_EQ(text.ParamValue(key), value) << shown;
+            ASSERT_EQ(JoinedFields(text, key), ValueBehind(plain, plain.find(key))) << shown;
         }
     }
     EXPECT_GT(found, texts) << "most texts hold something to find";
