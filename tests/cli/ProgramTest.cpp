@@ -35,10 +35,7 @@ TEST_F(Program, TellsWrongUsageFromFailure)
 {
     const std::string raw = Put("a.raw", ThreePointSweep());
     const std::string picture = Path("a.svg");
-    const struct {
-        Names arguments;
-        int status;
-    } cases[] = {
+    const std::pair<Names, int> cases[] = {
         {{}, 2},
         {{"--help"}, 0},
         {{"render", "--help"}, 0},
@@ -68,11 +65,10 @@ TEST_F(Program, TellsWrongUsageFromFailure)
         {{"upload", raw, "-o", folder.string()}, 1},
         {{"upload", raw, "-o", "/dev/full"}, 1},
     };
-    for (const auto& c : cases) {
-        const auto result = RunCli(c.arguments);
-        EXPECT_EQ(result.Status, c.status) << testing::PrintToString(c.arguments);
-        EXPECT_EQ(std::count(result.Err.begin(), result.Err.end(), '\n'), c.status == 0 ? 0 : 1)
-            << result.Err;
+    for (const auto& [arguments, status] : cases) {
+        const auto result = RunCli(arguments);
+        EXPECT_EQ(result.Status, status) << testing::PrintToString(arguments);
+        EXPECT_EQ(std::ranges::count(result.Err, '\n'), status == 0 ? 0 : 1) << result.Err;
     }
     EXPECT_EQ(Names{"a.raw"}, FilesIn());
 }
@@ -106,7 +102,7 @@ TEST_F(Program, NamesEachBadFileOnceAndDoesTheOthers)
         const auto result = RunCli({"info", Put(c.name, c.content), good});
         EXPECT_EQ(result.Status, 1) << c.name;
         EXPECT_NE(result.Err.find(c.problem), std::string::npos) << c.name << ": " << result.Err;
-        EXPECT_EQ(std::count(result.Err.begin(), result.Err.end(), '\n'), 1) << result.Err;
+        EXPECT_EQ(std::ranges::count(result.Err, '\n'), 1) << result.Err;
         EXPECT_NE(result.Out.find("good.raw"), std::string::npos) << c.name;
     }
     for (const std::string& name : {Path("missing"), folder.string(), std::string("/dev/zero")})

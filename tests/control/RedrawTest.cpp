@@ -63,15 +63,14 @@ TEST_F(Redraw, CurvesWithPointsThatAreNoNumbersAreFaults)
     constexpr float infinite = std::numeric_limits<float>::infinity();
     constexpr float undefined = std::numeric_limits<float>::quiet_NaN();
     ASSERT_TRUE(plot.ShowTrace(RawSweep(0, {1000, 5000, 10000}).Bytes()));
-    const struct {
-        float X, Y;
-    } points[] = {{850, infinite}, {850, undefined}, {undefined, -5}, {-infinite, -5}};
+    const std::pair<float, float> points[] = {
+        {850, infinite}, {850, undefined}, {undefined, -5}, {-infinite, -5}};
     for (const auto slot : {std::int16_t{0}, std::int16_t{2}}) {
         plot.SetIndex(slot);
-        for (const auto& point : points) {
-            const float x[] = {830, point.X, 890};
-            const float y[] = {-1, point.Y, -2};
-            EXPECT_THROW(plot.PlotCurve(3, x, y), HostFault) << slot << ": " << point.X << ", " << point.Y;
+        for (const auto& [badX, badY] : points) {
+            const float x[] = {830, badX, 890};
+            const float y[] = {-1, badY, -2};
+            EXPECT_THROW(plot.PlotCurve(3, x, y), HostFault) << slot << ": " << badX << ", " << badY;
             EXPECT_EQ(plot.count(), 3) << "the curve is there, it can't be drawn";
         }
         const float whole[] = {830, 850, 890};

@@ -86,16 +86,14 @@ TEST_F(TraceEntry, LongBuffersAreSpectrogramsByTheirLengthAlone)
 
 TEST_F(TraceEntry, PointCountsWithoutACurveAreFaults)
 {
-    const struct {
-        int points;
-        std::optional<FaultKind> fault;
-    } cases[] = {{0, FaultKind::Range},   {-3, FaultKind::Range},   {1, FaultKind::DivisionByZero},
-                 {2, std::nullopt},       {601, std::nullopt},      {602, FaultKind::Range},
-                 {700, FaultKind::Range}, {32767, FaultKind::Range}};
-    for (const auto& c : cases) {
+    const std::pair<int, std::optional<FaultKind>> cases[] = {
+        {0, FaultKind::Range},   {-3, FaultKind::Range},   {1, FaultKind::DivisionByZero},
+        {2, std::nullopt},       {601, std::nullopt},      {602, FaultKind::Range},
+        {700, FaultKind::Range}, {32767, FaultKind::Range}};
+    for (const auto& [points, fault] : cases) {
         RawBuilder raw = RawSweep(0, std::vector<std::int32_t>(700, 5000));
-        raw.Number(55, 2, c.points);
-        EXPECT_EQ(FaultOf(raw), c.fault) << c.points;
+        raw.Number(55, 2, points);
+        EXPECT_EQ(FaultOf(raw), fault) << points;
     }
     EXPECT_EQ(plot.count(), 32767) << "the slot was sized before the fault";
     EXPECT_EQ(state.YScaleBottom, -30.25F) << "the limits of the last curve that was possible";

@@ -26,9 +26,7 @@ TEST(Checksums, AreTheCrcOfTheBytesAroundTheField)
 
 TEST(Checksums, TheFieldIsTheTenCharactersBehindItsKey)
 {
-    const struct {
-        std::string_view Text, Field;
-    } cases[] = {
+    const std::pair<std::string_view, std::string_view> cases[] = {
         {"CHECKSUM=1234567890\r\n", "1234567890"},
         {"CHECKSUM=1234567890", "1234567890"},
         {"Date:\tx\r\nCHECKSUM=1234567890", "1234567890"},
@@ -39,9 +37,9 @@ TEST(Checksums, TheFieldIsTheTenCharactersBehindItsKey)
         {"CHECKSUM:1234567890", ""},
         {"", ""},
     };
-    for (const auto& each : cases) {
-        EXPECT_EQ(ReadChecksumField(each.Text), each.Field) << each.Text;
-        EXPECT_EQ(FindChecksumField(each.Text) == std::string_view::npos, each.Field.empty()) << each.Text;
+    for (const auto& [text, field] : cases) {
+        EXPECT_EQ(ReadChecksumField(text), field) << text;
+        EXPECT_EQ(FindChecksumField(text) == std::string_view::npos, field.empty()) << text;
     }
 }
 

@@ -100,20 +100,16 @@ TEST(CodeTables, ATextOutsideTheTableReadsAsTheDecimalNumberInIt)
 
 TEST(CodeConverters, AnAbsentNumberIsNotAvailableBothWays)
 {
-    const struct {
-        std::int16_t Value;
-        std::string_view Text;
-    } texts[] = {{0, "0"}, {32767, "32767"}, {-1, "N/A"}, {-32768, "N/A"}};
-    for (const auto& each : texts)
-        EXPECT_EQ(NumberOrNA(each.Value), each.Text);
+    const std::pair<std::int16_t, std::string_view> texts[] = {
+        {0, "0"}, {32767, "32767"}, {-1, "N/A"}, {-32768, "N/A"}};
+    for (const auto& [value, text] : texts)
+        EXPECT_EQ(NumberOrNA(value), text);
 
-    const struct {
-        std::string_view Text;
-        std::optional<std::int16_t> Value;
-    } values[] = {{"N/A", -1}, {"  N/A ", -1}, {" 384 ", 384},     {"n/a", 0},
-                  {"", 0},     {"2.5", 2},     {"32767.4", 32767}, {"32768", std::nullopt}};
-    for (const auto& each : values)
-        EXPECT_EQ(NumberFromNA(each.Text), each.Value) << each.Text;
+    const std::pair<std::string_view, std::optional<std::int16_t>> values[] = {
+        {"N/A", -1}, {"  N/A ", -1}, {" 384 ", 384},     {"n/a", 0},
+        {"", 0},     {"2.5", 2},     {"32767.4", 32767}, {"32768", std::nullopt}};
+    for (const auto& [text, value] : values)
+        EXPECT_EQ(NumberFromNA(text), value) << text;
 }
 
 TEST(CodeConverters, CDMAModeTextNamesTheOptionsOfItsTwoLowBits)

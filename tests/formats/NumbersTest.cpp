@@ -14,10 +14,7 @@ template <class T>
 using Limits = std::numeric_limits<T>;
 
 template <class T>
-struct TextCase {
-    T Value;
-    const char* Text;
-};
+using TextCase = std::pair<T, const char*>;
 
 TEST(NumberText, WritesFloatsInSevenDigits)
 {
@@ -97,12 +94,7 @@ TEST(NumberText, WritesIntegersOfAllWidths)
     EXPECT_EQ(SignedNumberText(-1), "-1");
 }
 
-struct ValueCase {
-    std::string_view Text;
-    double Value;
-};
-
-void ExpectValues(std::initializer_list<ValueCase> cases)
+void ExpectValues(std::initializer_list<std::pair<std::string_view, double>> cases)
 {
     for (const auto& [text, value] : cases)
         EXPECT_EQ(ValueOf(text), value) << text;

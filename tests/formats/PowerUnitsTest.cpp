@@ -70,24 +70,13 @@ TEST(DbmToPowerScale, SetsTheLibrarysPowerDownToItsLowestRung)
 
 TEST(CDMALevelWattsText, KeepsItsOddUnits)
 {
-    struct Case {
-        double Level;
-        const char* Text;
+    const std::pair<double, const char*> cases[] = {
+        {-1000, "0.00 pW"}, {-70, "100.0 pW"}, {-63.1, "489.8 pW"}, {-63, "0.50 uW"},
+        {-50.1, "9.77 uW"}, {-49, "0.01 mW"},  {-20.1, "9.77 mW"},  {-19, "0.013 W"},
+        {9.9, "9.772 W"},   {10, "0.010 W"},   {40, "10.000 W"},
     };
-    for (const auto& c : std::initializer_list<Case>{
-             {-1000, "0.00 pW"},
-             {-70, "100.0 pW"},
-             {-63.1, "489.8 pW"},
-             {-63, "0.50 uW"},
-             {-50.1, "9.77 uW"},
-             {-49, "0.01 mW"},
-             {-20.1, "9.77 mW"},
-             {-19, "0.013 W"},
-             {9.9, "9.772 W"},
-             {10, "0.010 W"},
-             {40, "10.000 W"},
-         })
-        EXPECT_EQ(CDMALevelWattsText(c.Level), c.Text) << c.Level;
+    for (const auto& [level, text] : cases)
+        EXPECT_EQ(CDMALevelWattsText(level), text) << level;
     EXPECT_EQ(CDMALevelWattsText(1e6), CDMALevelWattsText(390)); // beyond a float: its largest value
 }
 

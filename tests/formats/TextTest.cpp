@@ -7,10 +7,7 @@ namespace {
 
 using namespace std::string_literals;
 
-struct TextCase {
-    std::string Given;
-    std::string Expected;
-};
+using TextCase = std::pair<std::string, std::string>; // given and expected
 
 TEST(Text, LosesZeroCharactersAndBlanks)
 {
@@ -65,11 +62,7 @@ TEST(Text, GivesThePartsOfAPath)
 
 TEST(Text, GivesTheCodeInBrackets)
 {
-    struct Case {
-        std::string_view Text;
-        int Code;
-    };
-    for (const auto& [text, code] : std::initializer_list<Case>{
+    for (const auto& [text, code] : std::initializer_list<std::pair<std::string_view, int>>{
              {"Unknown(12)", 12},
              {"Unknown(1Fh)", 1}, // decimal: what the tables write in hexadecimal comes back so
              {"Unknown(0Dh)", 0},

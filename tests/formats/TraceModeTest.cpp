@@ -20,16 +20,13 @@ TEST(TraceModes, NamesLeadBackButForTheScannerAndTheSpectrogram)
 
 TEST(TraceModes, ATextThatIsNoNameReadsAsTheDecimalNumberInIt)
 {
-    const struct {
-        std::string_view Text;
-        int Code;
-    } cases[] = {
+    const std::pair<std::string_view, int> cases[] = {
         {"57", 0}, // a bare number, but one that is looked up
         {"87", 0},   {"Unknown(57)", 57},   {"48", 48},          {"gsm", 0},
         {"GSM ", 0}, {"Unknown(255)", 255}, {"Unknown(300)", 0}, {"Unknown(-1)", 0},
     };
-    for (const auto& each : cases)
-        EXPECT_EQ(ModeCode(each.Text), each.Code) << each.Text;
+    for (const auto& [text, code] : cases)
+        EXPECT_EQ(ModeCode(text), code) << text;
 }
 
 TEST(TraceModes, OddRowsGiveTheirOwnTextsExtensionsAndFilters)
