@@ -2,14 +2,10 @@
 
 #include "chart/ChartMouse.h"
 #include "control/ChartMenu.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
 #include "control/Input.h"
-#include "control/Plot.h"
 #include "formats/HostFault.h"
 #include "support/RawBuilder.h"
-
-#include <gtest/gtest.h>
+#include "support/ShownTrace.h"
 
 namespace Traces {
 namespace {
@@ -27,7 +23,7 @@ struct Listener : PlotEvents {
     }
 };
 
-class Markers : public testing::Test {
+class Markers : public Testing::ShownTrace {
 protected:
     Markers()
     {
@@ -36,9 +32,6 @@ protected:
     }
 
     Listener listener;
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     ChartSurface& box = state.VNABox;
     MarkerSet& set = state.VNAMarkers;
     float x(std::size_t point) const { return state.TraceSlots[0].X[point]; }

@@ -1,19 +1,13 @@
 #include "chart/SummaryPane.h"
 
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/ModeTable.h"
-
-#include <gtest/gtest.h>
+#include "support/ShownTrace.h"
 
 namespace Traces {
 namespace {
 
-class Pane : public testing::Test {
+class Pane : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Control control{platform, AllFamilies};
-    ChartSurface& pane = OpenPane(control);
+    ChartSurface& pane = OpenPane(state);
 
     const TextCommand& LastText() const { return std::get<TextCommand>(pane.Picture().back()); }
 };

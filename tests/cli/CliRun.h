@@ -2,15 +2,13 @@
 #pragma once
 
 #include "apps/cli/Program.h"
+#include "formats/Files.h"
 #include "support/RawBuilder.h"
+#include "support/TraceFiles.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
-#include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace Traces::Cli::Testing {
@@ -38,8 +36,7 @@ inline std::string SampleName(const std::string& name)
 
 inline std::string ContentOf(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return ReadWholeFile(path).value_or("");
 }
 
 /// A sweep from 824 to 894.5 MHz whose return losses are -20, -6.0206 and 0 dB.
@@ -50,24 +47,15 @@ inline std::string ThreePointSweep(int mode = 0)
 
 class InFolder : public testing::Test {
 protected:
-    InFolder()
-    {
-        std::string name = (std::filesystem::temp_directory_path() / "traces-cli-XXXXXX").string();
-        folder = mkdtemp(name.data());
-    }
-    ~InFolder() override
-    {
-        std::filesystem::current_path(before);
-        std::filesystem::remove_all(folder);
-    }
+    ~InFolder() override { std::filesystem::current_path(before); }
 
-    std::string Path(const std::string& name) const { return (folder / name).string(); }
+    std::string Path(const std::string& name) const { return own / name; }
 
     std::string Put(const std::string& name, const std::string& content) const
     {
         const std::string path = Path(name);
         std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-        std::ofstream(path, std::ios::binary) << content;
+        EXPECT_TRUE(WriteWholeFile(path, content));
         return path;
     }
 
@@ -81,7 +69,8 @@ protected:
         return names;
     }
 
-    std::filesystem::path folder;
+    const Traces::Testing::TemporaryFolder own;
+    const std::filesystem::path& folder = own.Path();
 
 private:
     std::filesystem::path before = std::filesystem::current_path();

@@ -21,9 +21,7 @@ std::string Shown(const ScriptLine& line)
 
 TEST(ScriptLines, SplitIntoAMemberAndItsArguments)
 {
-    static constexpr struct {
-        std::string_view line, shown;
-    } cases[] = {
+    static constexpr std::pair<std::string_view, std::string_view> cases[] = {
         // ordinary
         {"Clear", "Clear"},
         {"ShowTrace a.raw", "ShowTrace|a.raw"},
@@ -42,10 +40,10 @@ TEST(ScriptLines, SplitIntoAMemberAndItsArguments)
         {"Plot 2 [1,-2.5] []", "Plot|2|[2] 1.000000 -2.500000|[0]"},
         {"Plot 1 [ 1e3 ] [\t]", "Plot|1|[1] 1000.000000|[0]"},
     };
-    for (const auto& c : cases) {
-        const ScriptLine line = ParseScriptLine(c.line);
-        EXPECT_EQ(Shown(line), c.shown);
-        EXPECT_EQ(line.Problem, "") << c.line;
+    for (const auto& [text, shown] : cases) {
+        const ScriptLine line = ParseScriptLine(text);
+        EXPECT_EQ(Shown(line), shown);
+        EXPECT_EQ(line.Problem, "") << text;
     }
 }
 

@@ -1,21 +1,15 @@
 #include "control/ChartSurface.h"
 
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
 #include "control/Input.h"
-#include "control/ModeTable.h"
 #include "control/ViewText.h"
-
-#include <gtest/gtest.h>
+#include "support/ShownTrace.h"
 
 namespace Traces {
 namespace {
 
-class Surfaces : public testing::Test {
+class Surfaces : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Control control{platform, AllFamilies};
-    ChartSurface& box = control.VNABox;
+    ChartSurface& box = state.VNABox;
 };
 
 TEST_F(Surfaces, OverlayAndPictureAreErasedApart)
@@ -32,8 +26,7 @@ TEST_F(Surfaces, OverlayAndPictureAreErasedApart)
     EXPECT_TRUE(box.Overlay().empty());
     EXPECT_EQ(box.Picture(), finished);
     EXPECT_EQ(box.PictureRevision(), revision);
-    EXPECT_EQ(box.CurrentX, 100);
-    EXPECT_EQ(box.CurrentY, 0);
+    EXPECT_EQ((Point{box.CurrentX, box.CurrentY}), (Point{100, 0}));
     box.AutoRedraw = true;
     box.Cls();
     EXPECT_TRUE(box.Picture().empty());
@@ -56,7 +49,7 @@ TEST_F(Surfaces, ScaleIsRecordedWhereItChanges)
 
 TEST_F(Surfaces, PositionedTextFollowsItsColours)
 {
-    ChartSurface& holder = control.VNAHolder;
+    ChartSurface& holder = state.VNAHolder;
     holder.AutoRedraw = true;
     holder.ForeColor = 0x112233;
     DrawTextAt(holder, "A", 10, 20, 10);
@@ -79,20 +72,20 @@ TEST_F(Surfaces, PositionedTextFollowsItsColours)
 
 TEST_F(Surfaces, TextsGrowWithTheControlOnItsTighterAxis)
 {
-    const float before = control.VNAHolder.TextWidth("Freq (MHz)");
-    Resize(control, 1100, 1440);
-    EXPECT_EQ(control.ScreenFacts().FontScaleFactor, 2);
-    DrawTextAt(control.VNAHolder, "Freq (MHz)", 0, 0, 10);
-    EXPECT_EQ(control.VNAHolder.Font.Size, 20);
-    control.VNAHolder.Font.Size = 8.25F * 2;
-    EXPECT_NEAR(control.VNAHolder.TextWidth("Freq (MHz)"), before, 0.001) << "in user units it stays as wide";
-    Resize(control, 0, -5);
-    EXPECT_GT(control.VNAHolder.TextWidth("x"), 0);
+    const float before = state.VNAHolder.TextWidth("Freq (MHz)");
+    Resize(state, 1100, 1440);
+    EXPECT_EQ(state.ScreenFacts().FontScaleFactor, 2);
+    DrawTextAt(state.VNAHolder, "Freq (MHz)", 0, 0, 10);
+    EXPECT_EQ(state.VNAHolder.Font.Size, 20);
+    state.VNAHolder.Font.Size = 8.25F * 2;
+    EXPECT_NEAR(state.VNAHolder.TextWidth("Freq (MHz)"), before, 0.001) << "in user units it stays as wide";
+    Resize(state, 0, -5);
+    EXPECT_GT(state.VNAHolder.TextWidth("x"), 0);
 }
 
 TEST_F(Surfaces, LampsTakeTheirPlaceFromThePenWhenAsked)
 {
-    ChartSurface& holder = control.E1T1Holder;
+    ChartSurface& holder = state.E1T1Holder;
     holder.AutoRedraw = true;
     holder.Font.Size = 10;
     holder.CurrentX = 50;
@@ -111,39 +104,12 @@ TEST_F(Surfaces, ASurfaceWithoutExtentTakesTextAndMouse)
 {
     box.Width = 0;
     EXPECT_EQ(box.TextWidth("-30 dB"), 0);
-    MouseDown(control, box, MouseButton::Left, 0, 120, -10);
-    MouseMove(control, box, MouseButton::Left, 0, 130, -20);
-    MouseUp(control, box, MouseButton::Left, 0, 130, -20);
+    MouseDown(state, box, MouseButton::Left, 0, 120, -10);
+    MouseMove(state, box, MouseButton::Left, 0, 130, -20);
+    MouseUp(state, box, MouseButton::Left, 0, 130, -20);
     box.Scale(100, 0, 100, -30);
     EXPECT_EQ(box.TextWidth("-30 dB"), 0);
     EXPECT_EQ(UserPoint(box, 5, 5).X, 100);
-}
-
-TEST_F(Surfaces, EveryChildStandsAtItsRectangle)
-{
-    struct Case {
-        const ChartSurface& surface;
-        Point corner;
-        float width, height;
-    };
-    const Case cases[] = {
-        {control.VNABox, {4, 42}, 542, 380},     {control.SPABox, {80, 42}, 460, 380},
-        {control.E1T1Box, {100, 170}, 444, 190}, {control.CDMABox, {100, 42}, 440, 310},
-        {control.VppBar, {50, 240}, 220, 40},    {control.idenbox2, {40, 300}, 220, 90},
-        {control.ParamBox, {560, 0}, 350, 480},  {control.SpectroHolder, {0, 0}, 550, 580},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ((Point{c.surface.Left, c.surface.Top}), c.corner) << c.surface.Name;
-        EXPECT_EQ(c.surface.Width, c.width) << c.surface.Name;
-        EXPECT_EQ(c.surface.Height, c.height) << c.surface.Name;
-    }
-    control.BorderStyle = MyBorderStyles::pbRaised;
-    control.ShowParams = true;
-    Resize(control, 915, 484);
-    EXPECT_EQ(control.Surface.ScaleWidth, 915);
-    EXPECT_EQ(control.VNAHolder.Left, 2);
-    EXPECT_EQ(control.ParamBox.Left, 562);
-    EXPECT_EQ(control.VNABox.DeviceWidth(), 542);
 }
 
 } // namespace

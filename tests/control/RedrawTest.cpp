@@ -5,7 +5,6 @@
 #include "support/RawBuilder.h"
 #include "support/TraceFiles.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -43,32 +42,20 @@ TEST_F(Redraw, AFaultOfTheViewComesOutOfAHostsCallButNotOfALoaderOrAResize)
 
 TEST_F(Redraw, WhateverChangesThePictureAsksForARepaint)
 {
-    const struct {
-        const char* Name;
-        std::function<void()> Change;
-    } cases[] = {
-        {"a trace",
-         [&] {
-             plot.ShowTrace(RawSweep(0, {1000, 10000}).Bytes());
-         }},
-        {"a redraw", [&] { plot.RedrawTrace(); }},
-        {"a resize", [&] { plot.Resize(300, 200); }},
-        {"an emptied chart", [&] { plot.Clear(); }},
-        {"a trace of an unknown mode",
-         [&] {
-             plot.ShowTrace(RawSweep(200, {1, 2}).Bytes());
-         }},
-        {"a file of an unknown mode, which hides the holder",
-         [&] { plot.LoadVNAText(WithChecksum("Mode:\tUnknown(200)\r\nDataPoints:\t0\r\n"), {}); }},
-    };
-    for (const auto& each : cases) {
+    const auto repaints = [&](const auto& change) {
         platform.Repaints = 0;
-        each.Change();
-        EXPECT_GT(platform.Repaints, 0) << each.Name;
-    }
-    platform.Repaints = 0;
-    plot.ShowTrace(RawSweep(0, {}).Bytes().first(90));
-    EXPECT_EQ(platform.Repaints, 0) << "a refused trace leaves the picture alone";
+        change();
+        return platform.Repaints;
+    };
+    EXPECT_GT(repaints([&] { plot.ShowTrace(RawSweep(0, {1000, 10000}).Bytes()); }), 0);
+    EXPECT_GT(repaints([&] { plot.RedrawTrace(); }), 0);
+    EXPECT_GT(repaints([&] { plot.Resize(300, 200); }), 0);
+    EXPECT_GT(repaints([&] { plot.Clear(); }), 0);
+    EXPECT_GT(repaints([&] { plot.ShowTrace(RawSweep(200, {1, 2}).Bytes()); }), 0) << "an unknown mode";
+    const std::string unknown = WithChecksum("Mode:\tUnknown(200)\r\nDataPoints:\t0\r\n");
+    EXPECT_GT(repaints([&] { plot.LoadVNAText(unknown, {}); }), 0) << "which hides the holder";
+    EXPECT_EQ(repaints([&] { plot.ShowTrace(RawSweep(0, {}).Bytes().first(90)); }), 0)
+        << "a refused trace leaves the picture alone";
 }
 
 TEST_F(Redraw, CurvesWithPointsThatAreNoNumbersAreFaults)
@@ -76,15 +63,14 @@ TEST_F(Redraw, CurvesWithPointsThatAreNoNumbersAreFaults)
     constexpr float infinite = std::numeric_limits<float>::infinity();
     constexpr float undefined = std::numeric_limits<float>::quiet_NaN();
     ASSERT_TRUE(plot.ShowTrace(RawSweep(0, {1000, 5000, 10000}).Bytes()));
-    const struct {
-        float X, Y;
-    } points[] = {{850, infinite}, {850, undefined}, {undefined, -5}, {-infinite, -5}};
+    const std::pair<float, float> points[] = {
+        {850, infinite}, {850, undefined}, {undefined, -5}, {-infinite, -5}};
     for (const auto slot : {std::int16_t{0}, std::int16_t{2}}) {
         plot.SetIndex(slot);
-        for (const auto& point : points) {
-            const float x[] = {830, point.X, 890};
-            const float y[] = {-1, point.Y, -2};
-            EXPECT_THROW(plot.PlotCurve(3, x, y), HostFault) << slot << ": " << point.X << ", " << point.Y;
+        for (const auto& [badX, badY] : points) {
+            const float x[] = {830, badX, 890};
+            const float y[] = {-1, badY, -2};
+            EXPECT_THROW(plot.PlotCurve(3, x, y), HostFault) << slot << ": " << badX << ", " << badY;
             EXPECT_EQ(plot.count(), 3) << "the curve is there, it can't be drawn";
         }
         const float whole[] = {830, 850, 890};

@@ -1,11 +1,6 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
 #include "support/Faults.h"
 #include "support/RawBuilder.h"
-
-#include <gtest/gtest.h>
-#include <optional>
+#include "support/ShownTrace.h"
 
 namespace Traces {
 namespace {
@@ -14,12 +9,8 @@ using Testing::RawBuilder;
 using Testing::RawHeader;
 using Testing::RawSweep;
 
-class TraceEntry : public testing::Test {
+class TraceEntry : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
-
     std::optional<FaultKind> FaultOf(const RawBuilder& raw)
     {
         return Testing::FaultOf([&] { plot.ShowTrace(raw.Bytes()); });
@@ -38,13 +29,12 @@ TEST_F(TraceEntry, StartsWithADemonstrationCurveAndNoView)
 
 TEST_F(TraceEntry, AcceptsByTheLengthInTheHeader)
 {
-    struct Case {
+    const struct {
         const char* name;
         std::size_t size;
         int stated;
         bool accepted;
-    };
-    static constexpr Case cases[] = {
+    } cases[] = {
         {"shorter than any trace", 99, 99, false},     {"shortest", 100, 100, true},
         {"two bytes more than sent", 100, 102, true},  {"three bytes more", 100, 103, false},
         {"stated too short", 200, 99, false},          {"negative", 200, 0xFFFF, false},
@@ -96,18 +86,14 @@ TEST_F(TraceEntry, LongBuffersAreSpectrogramsByTheirLengthAlone)
 
 TEST_F(TraceEntry, PointCountsWithoutACurveAreFaults)
 {
-    struct Case {
-        int points;
-        std::optional<FaultKind> fault;
-    };
-    static constexpr Case cases[] = {
+    const std::pair<int, std::optional<FaultKind>> cases[] = {
         {0, FaultKind::Range},   {-3, FaultKind::Range},   {1, FaultKind::DivisionByZero},
         {2, std::nullopt},       {601, std::nullopt},      {602, FaultKind::Range},
         {700, FaultKind::Range}, {32767, FaultKind::Range}};
-    for (const auto& c : cases) {
+    for (const auto& [points, fault] : cases) {
         RawBuilder raw = RawSweep(0, std::vector<std::int32_t>(700, 5000));
-        raw.Number(55, 2, c.points);
-        EXPECT_EQ(FaultOf(raw), c.fault) << c.points;
+        raw.Number(55, 2, points);
+        EXPECT_EQ(FaultOf(raw), fault) << points;
     }
     EXPECT_EQ(plot.count(), 32767) << "the slot was sized before the fault";
     EXPECT_EQ(state.YScaleBottom, -30.25F) << "the limits of the last curve that was possible";
@@ -125,12 +111,10 @@ TEST_F(TraceEntry, TextRoutesCountIn16Bits)
 
 TEST_F(TraceEntry, SlotsAreAddressedModuloSix)
 {
-    plot.SetIndex(-7);
-    EXPECT_EQ(plot.SetIndex(), 1);
-    plot.SetIndex(6);
-    EXPECT_EQ(plot.SetIndex(), 0);
-    plot.SetIndex(-32768);
-    EXPECT_EQ(plot.SetIndex(), 2);
+    for (const auto& [asked, slot] : {std::pair{-7, 1}, {6, 0}, {-32768, 2}}) {
+        plot.SetIndex(static_cast<std::int16_t>(asked));
+        EXPECT_EQ(plot.SetIndex(), slot) << asked;
+    }
     plot.Clear();
     for (std::int16_t i = 0; i < 6; ++i) {
         plot.SetIndex(i);

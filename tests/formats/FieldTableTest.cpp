@@ -63,34 +63,19 @@ constexpr std::string_view SampleLines =
     "Status 2:\t200\r\nPair 2:\t6553.5\r\nState:\tON\r\n"
     "Name:\tAB    \r\nSerial:\t4294967295\r\n";
 
-TEST(FieldTables, DecodeEachReaderToItsMember)
-{
-    RawBuilder raw = RawSample();
-    raw.Text(31, "\x20\x20\x20\x20");
-    const Sample record = Decoded(raw);
-    EXPECT_EQ(record.Frequency, 3000);
-    EXPECT_EQ(record.Power, -119.5);
-    EXPECT_EQ(record.Limit, -7);
-    EXPECT_EQ(record.Level, -300);
-    EXPECT_EQ(record.Status[0], 0);
-    EXPECT_EQ(record.Status[1], 200);
-    EXPECT_EQ(record.Pairs[0].First, 0);
-    EXPECT_EQ(record.Pairs[1].First, 6553.5F);
-    EXPECT_EQ(record.State, "ON");
-    EXPECT_EQ(record.Name, "AB    ");
-    EXPECT_EQ(record.Serial, "4294967295");
-    EXPECT_EQ(Decoded(RawBuilder(10)).Power, -270) << "what a short buffer lacks is zero before the offset";
-    EXPECT_EQ(Decoded(RawBuilder(10)).Name, "      ");
-    EXPECT_EQ(Decoded(RawSample().Number(28, 1, 200)).State, "Unknown(C8h)");
-}
-
-TEST(FieldTables, ListLinesInTheOrderOfTheRows)
+TEST(FieldTables, DecodeEachReaderToItsMemberAndListThemInTheOrderOfTheRows)
 {
     RawBuilder raw = RawSample();
     raw.Text(31, "    ");
+    const Sample record = Decoded(raw);
     ParameterList lines;
-    AddParamLines(lines, Decoded(raw), SampleFields);
+    AddParamLines(lines, record, SampleFields);
     EXPECT_EQ(lines.Text(), SampleLines);
+    EXPECT_EQ(record.Status[0], 0) << "not the element of the row";
+    EXPECT_EQ(record.Pairs[0].First, 0);
+    EXPECT_EQ(Decoded(RawBuilder(10)).Power, -270) << "what a short buffer lacks is zero before the offset";
+    EXPECT_EQ(Decoded(RawBuilder(10)).Name, "      ");
+    EXPECT_EQ(Decoded(RawSample().Number(28, 1, 200)).State, "Unknown(C8h)");
 }
 
 TEST(FieldTables, EncodingUndoesTheDecode)
@@ -132,19 +117,14 @@ TEST(FieldTables, ALoadKeepsWhatIsMissingOrDoesNotFit)
     } cases[] = {
         {"Limit:\t16777217", Through::FieldType, 16777217, 2, 3},
         {"Limit:\t16777217", Through::Float, 16777216, 2, 3}, // 24 bits of a float's mantissa
-        {"Limit:\t2147483647", Through::FieldType, 2147483647, 2, 3},
-        {"Limit:\t2147483647", Through::Float, 1, 2, 3}, // rounds to what no longer fits
-        {"Limit:\t&hFFFFFFFF", Through::FieldType, -1, 2, 3},
+        {"Limit:\t2147483647", Through::Float, 1, 2, 3},      // rounds to what no longer fits
         {"Level:\t&hFFFF", Through::FieldType, 1, -1, 3},
         {"Level:\t&hFFFF", Through::Float, 1, 2, 3}, // 65535 as a float
         {"Level:\t32768", Through::FieldType, 1, 2, 3},
-        {"Level:\t32768", Through::Float, 1, 2, 3},
-        {"Level:\t2.5", Through::Float, 1, 2, 3},
         {"Level:\t3.5", Through::FieldType, 1, 4, 3},
         {"Status 2:\t256", Through::FieldType, 1, 2, 3},
         {"Status 2:\t-1", Through::Float, 1, 2, 3},
         {"Status 2:\t255", Through::Float, 1, 2, 255},
-        {"Status 2:\t", Through::FieldType, 1, 2, 3},
         {"Status 2:\ttwo", Through::Float, 1, 2, 3},
     };
     for (const auto& each : cases) {

@@ -14,44 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Lets no file grow beyond a size, as a full disk does.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes) : handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit small = {bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit before{};
-    void (*handler)(int);
-};
-
-/// Gives up the rights of the administrator, whom no protection stops.
-class OrdinaryUser {
-public:
-    OrdinaryUser()
-    {
-        constexpr uid_t nobody = 65534;
-        EXPECT_TRUE(wasOrdinary || seteuid(nobody) == 0);
-    }
-    ~OrdinaryUser() { EXPECT_TRUE(wasOrdinary || seteuid(0) == 0); }
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
-private:
-    bool wasOrdinary = geteuid() != 0;
-};
-
 class Files : public testing::Test {
 protected:
     Testing::TemporaryFolder folder;
@@ -110,16 +72,26 @@ TEST_F(Files, AFailingReplacementLeavesTheOldFileAndNothingElse)
     ASSERT_TRUE(WriteWholeFile(target, "old"));
     fs::create_symlink("circle", folder.Path() / "circle");
     fs::permissions(folder.Path(), fs::perms::all);
-    const std::string large(5000, 'x');
-    {
-        const FileSizeLimit limit(1000);
-        EXPECT_FALSE(ReplaceFile(target, large, Nothing)) << "full disk";
-    }
-    {
-        fs::permissions(target, fs::perms(0444));
-        const OrdinaryUser user;
-        EXPECT_FALSE(ReplaceFile(target, "new", Nothing)) << "write-protected";
-    }
+
+    // No file may grow beyond 1000 bytes, as on a disk that is full.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small = {1000, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    const bool replaced = ReplaceFile(target, std::string(5000, 'x'), Nothing);
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_FALSE(replaced) << "full disk";
+
+    // The administrator, whom no protection stops, gives up the rights.
+    constexpr uid_t nobody = 65534;
+    const bool administrator = geteuid() == 0;
+    fs::permissions(target, fs::perms(0444));
+    EXPECT_TRUE(!administrator || seteuid(nobody) == 0);
+    EXPECT_FALSE(ReplaceFile(target, "new", Nothing)) << "write-protected";
+    EXPECT_TRUE(!administrator || seteuid(0) == 0);
+
     EXPECT_FALSE(ReplaceFile("/dev/full", "new", Nothing));
     EXPECT_FALSE(ReplaceFile(folder / "none/a.vna", "new", Nothing));
     EXPECT_FALSE(ReplaceFile(folder.Path().string(), "new", Nothing));

@@ -14,30 +14,19 @@ template <class T>
 using Limits = std::numeric_limits<T>;
 
 template <class T>
-struct TextCase {
-    T Value;
-    const char* Text;
-};
+using TextCase = std::pair<T, const char*>;
 
 TEST(NumberText, WritesFloatsInSevenDigits)
 {
     for (const auto& [value, text] : std::initializer_list<TextCase<float>>{
              {0.0F, "0"},
              {-0.0F, "-0"},
-             {0.5F, "0.5"},
-             {-12.34567F, "-12.34567"},
-             {100, "100"},
-             {0.1F, "0.1"},
-             {1234567, "1234567"},
              {-9999999, "-9999999"},
              {12345678, "1.234568E+07"},
              {10000000, "1E+07"},
              {9999999.5F, "1E+07"}, // an exact tie, rounded up across the form
              {0.0001F, "0.0001"},
-             {0.00012345678F, "0.0001234568"},
              {0.00009999999F, "9.999999E-05"},
-             {1e-6F, "1E-06"},
-             {2.5e-5F, "2.5E-05"},
              {1048576.5F, "1048576"}, // exact ties go to the even digit
              {1048577.5F, "1048578"},
              {Limits<float>::max(), "3.402823E+38"},
@@ -56,10 +45,8 @@ TEST(NumberText, WritesFloatsInSevenDigits)
 TEST(NumberText, WritesDoublesInFifteenDigits)
 {
     for (const auto& [value, text] : std::initializer_list<TextCase<double>>{
-             {-0.1, "-0.1"},
              {0.1 + 0.2, "0.3"},
              {1.0 / 3, "0.333333333333333"},
-             {3.25, "3.25"},
              {123456789.123456789, "123456789.123457"},
              {100000000000000, "100000000000000"},
              {1e15, "1E+15"},
@@ -101,20 +88,13 @@ TEST(NumberText, AgreesWithExactConversionBothWays)
 TEST(NumberText, WritesIntegersOfAllWidths)
 {
     EXPECT_EQ(NumberText(Limits<std::int64_t>::min()), "-9223372036854775808");
-    EXPECT_EQ(NumberText(Limits<std::int32_t>::min()), "-2147483648");
     EXPECT_EQ(NumberText(std::int16_t{-32768}), "-32768");
     EXPECT_EQ(NumberText(std::uint8_t{65}), "65");
     EXPECT_EQ(SignedNumberText(0), " 0");
-    EXPECT_EQ(SignedNumberText(600), " 600");
     EXPECT_EQ(SignedNumberText(-1), "-1");
 }
 
-struct ValueCase {
-    std::string_view Text;
-    double Value;
-};
-
-void ExpectValues(std::initializer_list<ValueCase> cases)
+void ExpectValues(std::initializer_list<std::pair<std::string_view, double>> cases)
 {
     for (const auto& [text, value] : cases)
         EXPECT_EQ(ValueOf(text), value) << text;

@@ -24,16 +24,11 @@ TEST(Headers, EveryFieldStandsAtItsPlaceAndAShortBufferReadsAsZero)
 {
     ParameterList lines;
     const TraceHeader header = Decode(60, lines);
-    EXPECT_EQ(header.TraceLength, 60);
+    EXPECT_EQ(lines.Text(), "Trace length:\t60\r\nModel:\tTRC-100\r\nVersion:\t3.20\r\n"
+                            "Mode:\tSpectrum Analyzer Mode\r\nDate:\t11/22/2026\r\nTime:\t10:20:30\r\n"
+                            "Ref Number:\t0123456789abcdef\r\nDataPoints:\t513\r\n");
     EXPECT_EQ(header.HeaderByte3, 7);
-    EXPECT_EQ(header.Model, "TRC-100");
-    EXPECT_EQ(header.Version, "3.20");
-    EXPECT_EQ(header.Mode, 48);
     EXPECT_EQ(header.HeaderWord, 0x01020304);
-    EXPECT_EQ(header.Date, "11/22/2026");
-    EXPECT_EQ(header.Time, "10:20:30");
-    EXPECT_EQ(header.RefNumber, "0123456789abcdef");
-    EXPECT_EQ(header.DataPoints, 513);
 
     EXPECT_EQ(Decode(56, lines).DataPoints, 513) << "a number may end on the last byte";
     EXPECT_EQ(Decode(55, lines).DataPoints, 0);
@@ -61,11 +56,8 @@ TEST(Headers, ListTheirFieldsInOrderWhateverStoodThereBefore)
                                  "Mode:\tUnknown(C8)\r\nDate:\t          \r\nTime:\t10:20:30\r\n"
                                  "Ref Number:\tA7\r\nDataPoints:\t601\r\n";
     EXPECT_EQ(lines.Text(), expected);
-    EXPECT_EQ(lines.ListCount(), 8U);
-    EXPECT_EQ(lines.List(6), "Ref Number:\tA7");
-    const TraceHeader decoded = Decode(60, lines);
+    Decode(60, lines);
     EXPECT_EQ(lines.ListCount(), 8U) << "a decode begins the list anew";
-    EXPECT_EQ(decoded.RefNumber, "0123456789abcdef");
 }
 
 TEST(Headers, AFileGivesTextsAndWhatNumbersItHas)
@@ -80,17 +72,12 @@ TEST(Headers, AFileGivesTextsAndWhatNumbersItHas)
                          "DataPoints:\t1,000\r\n");
     ParameterList lines;
     HeaderFromText(file, header, lines);
-    EXPECT_EQ(header.TraceLength, 340) << "no number";
-    EXPECT_EQ(header.DataPoints, 1000);
-    EXPECT_EQ(header.Model, "TRC-100") << "cut to its width";
-    EXPECT_EQ(header.Version, "3   ") << "padded to it";
-    EXPECT_EQ(header.Mode, 1) << "the line of the mode, not that of the model";
-    EXPECT_EQ(header.Date, "          ") << "emptied";
-    EXPECT_EQ(header.Time, "10:20   ");
-    EXPECT_EQ(header.RefNumber, "TOWER 7");
+    // A length that is no number stays, texts are cut or padded to their widths, one without a line is
+    // emptied.
+    EXPECT_EQ(lines.Text(), "Trace length:\t340\r\nModel:\tTRC-100\r\nVersion:\t3   \r\n"
+                            "Mode:\tSWR Frequency\r\nDate:\t          \r\nTime:\t10:20   \r\n"
+                            "Ref Number:\tTOWER 7\r\nDataPoints:\t1000\r\n");
     EXPECT_EQ(header.HeaderByte3, 9) << "no file holds it";
-    EXPECT_EQ(lines.List(0), "Trace length:\t340");
-    EXPECT_EQ(lines.List(6), "Ref Number:\tTOWER 7");
 
     HeaderFromText(TraceText("\nDataPoints:\t40000\r\n"), header, lines);
     EXPECT_EQ(header.DataPoints, 1000) << "doesn't fit 16 bits";

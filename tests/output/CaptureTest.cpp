@@ -1,25 +1,17 @@
 #include "output/Capture.h"
 
 #include "control/ChartMenu.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
 #include "support/RawBuilder.h"
-
-#include <gtest/gtest.h>
+#include "support/ShownTrace.h"
 
 namespace Traces {
 namespace {
 
 using Testing::RawSweep;
 
-class HandingOn : public testing::Test {
+class HandingOn : public Testing::ShownTrace {
 protected:
     HandingOn() { plot.ShowTrace(RawSweep(0, {1000, 3162}).Bytes()); }
-
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
 
     std::string Position(std::int32_t latitude, std::int32_t longitude)
     {
@@ -72,22 +64,20 @@ TEST_F(HandingOn, SubTitlesAreTakenWhenTheyHoldSomething)
     platform.Answers = {"Mast 3", ""};
     RunMenuItem(state, {"menuSubTitle"}, false);
     EXPECT_EQ(plot.TraceName(), "Mast 3");
-    EXPECT_EQ(platform.Messages[0].Title, "Sub-title Entry");
-    EXPECT_EQ(platform.Messages[0].Text, "Enter a subtitle for this plot.");
-    RunMenuItem(state, {"menuSubTitle"}, false);
-    EXPECT_EQ(plot.TraceName(), "Mast 3") << "empty";
-    RunMenuItem(state, {"menuSubTitle"}, false);
-    EXPECT_EQ(plot.TraceName(), "Mast 3") << "cancelled";
+    EXPECT_EQ(platform.Messages[0].Title + ": " + platform.Messages[0].Text,
+              "Sub-title Entry: Enter a subtitle for this plot.");
+    for (const char* answer : {"empty", "cancelled"}) {
+        RunMenuItem(state, {"menuSubTitle"}, false);
+        EXPECT_EQ(plot.TraceName(), "Mast 3") << answer;
+    }
 }
 
 TEST_F(HandingOn, APageTakesPercentages)
 {
     EXPECT_TRUE(plot.PrintTrace(50, 60, 25, 10));
     ASSERT_EQ(platform.Pages.size(), 1U);
-    EXPECT_EQ(platform.Pages[0].Left, 0.25);
-    EXPECT_EQ(platform.Pages[0].Top, 0.1);
-    EXPECT_EQ(platform.Pages[0].Width, 0.5);
-    EXPECT_EQ(platform.Pages[0].Height, 0.6);
+    const auto& page = platform.Pages[0];
+    EXPECT_EQ((std::array{page.Width, page.Height, page.Left, page.Top}), (std::array{0.5, 0.6, 0.25, 0.1}));
 }
 
 TEST_F(HandingOn, SixPropertiesAreStoredUnderTheirKeys)
@@ -128,6 +118,8 @@ TEST_F(HandingOn, ABorderMovesTheHoldersAndDrawsItsFrame)
     plot.ShowParams(true);
     plot.Resize(915, 484);
     EXPECT_EQ(state.Surface.Picture().size(), 1 + 16U) << "a frame around the pane as well";
+    EXPECT_EQ(state.ParamBox.Left, 562);
+    EXPECT_EQ(state.VNABox.DeviceWidth(), 542);
     plot.BorderStyle(MyBorderStyles::pbflat);
     EXPECT_TRUE(state.Surface.Picture().empty());
 }

@@ -17,14 +17,13 @@ using Places = std::vector<std::uint8_t>;
 TEST(CellImage, ShowsWhatLiesWithinUprightAndNothingFarOff)
 {
     const ColourCells grid = {3, 2, {1, 2, 3, 4, 5, 6}, {Black}};
-    struct Case {
+    const struct {
         const char* what;
         DevicePoint from, to;
         int columns, rows;
         Places places;
         DeviceRect place;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"as it is", {10, 20}, {40, 40}, 3, 2, {1, 2, 3, 4, 5, 6}, {10, 20, 40, 40}},
         {"upwards", {10, 40}, {40, 20}, 3, 2, {4, 5, 6, 1, 2, 3}, {10, 20, 40, 40}},
         {"leftwards", {40, 20}, {10, 40}, 3, 2, {3, 2, 1, 6, 5, 4}, {10, 20, 40, 40}},
@@ -34,7 +33,7 @@ TEST(CellImage, ShowsWhatLiesWithinUprightAndNothingFarOff)
         {"no width", {10, 20}, {10, 40}, 0, 0, {}, {}},
         {"no number", {NAN, 20}, {40, 40}, 0, 0, {}, {}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         const ShownCells shown = CellsWithin({0, 0, 100, 100}, grid, c.from, c.to);
         EXPECT_EQ(shown.Cells.Columns, c.columns) << c.what;
         EXPECT_EQ(shown.Cells.Rows, c.rows) << c.what;

@@ -19,20 +19,19 @@ using Testing::Red;
 
 TEST(PainterCanvas, CrispLinesTakeWholePixelsFromEndToEnd)
 {
-    struct Case {
+    const struct {
         const char* what;
         Pen pen;
         double ratio;
         std::string row;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"solid", {Red, LineStyle::Solid, 1}, 1, "..##########################...."},
         {"dotted", {Red, LineStyle::Dotted, 1}, 1, "..#..#..#..#..#..#..#..#..#....."},
         {"dashed", {Red, LineStyle::Dashed, 1}, 1, "..######....######....######...."},
         {"dots of a wide pen keep their rhythm", {Red, LineStyle::Dashed, 3}, 1, ""},
         {"finer pixels, longer dashes", {Red, LineStyle::Dashed, 1}, 2, "..############........######...."},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         const std::array<DevicePoint, 2> line{{{2.5, 8.5}, {27.5, 8.5}}};
         Paper paper(QSize(32, 16), c.ratio);
         paper.Draw([&](Canvas& canvas) { canvas.Polyline(line, c.pen, true); });
@@ -65,16 +64,15 @@ TEST(PainterCanvas, CellsFillTheirPixelsWithoutBlending)
 
 TEST(PainterCanvas, CrispLinesIncludeBothEndsInEveryDirection)
 {
-    struct Case {
+    const struct {
         DevicePoint from, to;
         QRect ink;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {{2.5, 3.5}, {9.5, 3.5}, {2, 3, 8, 1}}, {{9.5, 3.5}, {2.5, 3.5}, {2, 3, 8, 1}},
         {{3.5, 2.5}, {3.5, 9.5}, {3, 2, 1, 8}}, {{3.5, 9.5}, {3.5, 2.5}, {3, 2, 1, 8}},
         {{3.5, 4.5}, {3.5, 4.5}, {3, 4, 1, 1}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         Paper paper(QSize(12, 12));
         const std::array<DevicePoint, 2> line{c.from, c.to};
         paper.Draw([&](Canvas& canvas) { canvas.Polyline(line, {Red, LineStyle::Solid, 1}, true); });

@@ -1,14 +1,13 @@
 // A small picture to draw on in tests, without a control.
 #pragma once
 
+#include "Images.h"
 #include "output/PictureBackEnd.h"
 #include "qt/PainterCanvas.h"
 #include "qt/QtPictures.h"
 
 #include <QColor>
-#include <QImage>
 #include <QPainter>
-#include <QRect>
 
 #include <string>
 
@@ -39,16 +38,7 @@ public:
         drawing(canvas);
     }
 
-    /// The rectangle of all that isn't white.
-    QRect Ink() const
-    {
-        QRect ink;
-        for (int y = 0; y < Image.height(); ++y)
-            for (int x = 0; x < Image.width(); ++x)
-                if (Image.pixel(x, y) != qRgb(255, 255, 255))
-                    ink |= QRect(x, y, 1, 1);
-        return ink;
-    }
+    QRect Ink() const { return InkOf(Image); }
 
     /// A row of pixels as letters: "#" of a colour, "." white, "?" anything else.
     std::string Row(int y, QColor colour = Qt::red) const

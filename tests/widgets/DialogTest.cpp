@@ -1,4 +1,3 @@
-#include "control/ChartMenu.h"
 #include "support/TraceFiles.h"
 #include "widgets/ShownPlot.h"
 
@@ -6,7 +5,6 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -19,46 +17,34 @@ using Dialogs = Testing::ShownPlot;
 
 TEST_F(Dialogs, SubTitleIsAskedForAndShown)
 {
-    QString prompt, title, initial;
+    QString asked;
     const auto answer = [&](const QString& text, bool accept) {
-        WhenOpen<QMenu>([&, text, accept](QMenu& menu) {
-            WhenOpen<QInputDialog>([&, text, accept](QInputDialog& box) {
-                prompt = box.labelText();
-                title = box.windowTitle();
-                initial = box.textValue();
-                box.setTextValue(text);
-                accept ? box.accept() : box.reject();
-            });
-            menu.setActiveAction(menu.findChild<QAction*>("menuSubTitle"));
-            QTest::keyClick(&menu, Qt::Key_Return);
+        WhenOpen<QInputDialog>([&, text, accept](QInputDialog& box) {
+            asked = box.windowTitle() + ": " + box.labelText() + " " + box.textValue();
+            box.setTextValue(text);
+            accept ? box.accept() : box.reject();
         });
-        ShowChartMenu(State(), &State().VNAMarkers);
+        widget.ChooseMenuItem("menuSubTitle");
     };
     answer("North sector", false);
     EXPECT_EQ(widget.Plot().TraceName(), "Tower");
+    EXPECT_EQ(asked, "Sub-title Entry: Enter a subtitle for this plot. Tower");
     answer("North sector, 20\u00B0", true);
     EXPECT_EQ(widget.Plot().TraceName(), "North sector, 20\xB0");
-    EXPECT_EQ(prompt, "Enter a subtitle for this plot.");
-    EXPECT_EQ(title, "Sub-title Entry");
-    EXPECT_EQ(initial, "Tower");
 }
 
 TEST_F(Dialogs, ParametersStandInColumns)
 {
     QString first;
     QList<QTextOption::Tab> tabs;
-    WhenOpen<QMenu>([&](QMenu& menu) {
-        WhenOpen<QDialog>([&](QDialog& form) {
-            EXPECT_EQ(form.objectName(), "dlgParams");
-            const auto* list = form.findChild<QPlainTextEdit*>("lstParameters");
-            first = list->toPlainText().section('\n', 0, 0);
-            tabs = list->document()->defaultTextOption().tabs();
-            form.reject();
-        });
-        menu.setActiveAction(menu.findChild<QAction*>("menuTraceInfo"));
-        QTest::keyClick(&menu, Qt::Key_Return);
+    WhenOpen<QDialog>([&](QDialog& form) {
+        EXPECT_EQ(form.objectName(), "dlgParams");
+        const auto* list = form.findChild<QPlainTextEdit*>("lstParameters");
+        first = list->toPlainText().section('\n', 0, 0);
+        tabs = list->document()->defaultTextOption().tabs();
+        form.reject();
     });
-    ShowChartMenu(State(), &State().VNAMarkers);
+    widget.ChooseMenuItem("menuTraceInfo");
     EXPECT_EQ(first.toStdString(), widget.Plot().Parameters().front());
     ASSERT_EQ(tabs.size(), 3);
     EXPECT_NEAR(tabs[1].position / tabs[0].position, 160.0 / 125, 0.001);

@@ -1,8 +1,8 @@
+#include "qt/Images.h"
 #include "support/TraceFiles.h"
 #include "widgets/ShownPlot.h"
 
 #include <QPageSize>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProcess>
 
@@ -31,11 +31,7 @@ protected:
         const QString stem = QString::fromStdString(folder / "page");
         EXPECT_EQ(QProcess::execute(TRACES_PDFTOPPM, {"-png", "-singlefile", "-r", "72", pdf, stem}), 0);
         const QImage page(stem + ".png");
-        QRect ink;
-        for (int y = 0; y < page.height(); ++y)
-            for (int x = 0; x < page.width(); ++x)
-                if (page.pixel(x, y) != qRgb(255, 255, 255))
-                    ink |= QRect(x, y, 1, 1);
+        const QRect ink = Testing::InkOf(page);
         return {double(ink.left()) / page.width(), double(ink.top()) / page.height(),
                 double(ink.width()) / page.width(), double(ink.height()) / page.height()};
     }
