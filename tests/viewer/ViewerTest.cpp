@@ -85,6 +85,9 @@ TEST_F(Viewing, ArrowKeysStepThroughTheFolder)
     EXPECT_FALSE(Action("Next trace")->isEnabled());
     Action("Previous trace")->trigger();
     EXPECT_EQ(window->windowTitle(), "rl_open_101pts.raw - Traces");
+    ASSERT_TRUE(window->OpenFile(Path(""))) << "a folder stands for its first trace";
+    EXPECT_EQ(window->windowTitle(), "cl_shorted_feeder_201pts.raw - Traces");
+    EXPECT_EQ(list->currentRow(), 0);
 }
 
 TEST_F(Viewing, FileThatIsNoneLeavesTheTraceOnShowAlone)
@@ -96,6 +99,8 @@ TEST_F(Viewing, FileThatIsNoneLeavesTheTraceOnShowAlone)
     EXPECT_TRUE(Refusal(Path("letter.txt")).startsWith("letter.txt isn't a trace"));
     EXPECT_EQ(Refusal(Path("empty.raw")), "empty.raw is empty.");
     EXPECT_EQ(Refusal(Path("gone.raw")), "gone.raw can't be read.");
+    ASSERT_TRUE(std::filesystem::create_directory(folder / "none"));
+    EXPECT_EQ(Refusal(Path("none/")), "none holds no traces.");
     EXPECT_EQ(window->Chart().grab().toImage(), before);
     EXPECT_EQ(State().Header.DataPoints, 101);
 }

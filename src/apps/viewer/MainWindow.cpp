@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -282,6 +283,8 @@ void MainWindow::MakeHelpMenu()
 
 bool MainWindow::OpenFile(const QString& path)
 {
+    if (QFileInfo(path).isDir())
+        return OpenFolder(path);
     const Trial trial(path);
     if (!trial.Problem.isEmpty()) {
         Complain(path, trial.Problem);
@@ -292,15 +295,21 @@ bool MainWindow::OpenFile(const QString& path)
     control.ZoomActive = false;
     overlays = 0;
     ShowContent(control, trial.Content, AnsiFromUtf8(QFileInfo(path).completeBaseName().toStdString()));
-    if (folder.ShowFile(path)) {
-        const QSignalBlocker quiet(files);
-        files->clear();
-        files->addItems(folder.Files());
-    }
-    files->setCurrentRow(folder.Place());
+    ListFolderOf(path);
     Remember(path);
     ShowState(path);
     return true;
+}
+
+bool MainWindow::OpenFolder(const QString& path)
+{
+    const QStringList traces = TracesIn(path);
+    if (traces.isEmpty()) {
+        Complain(QDir(path).absolutePath(), tr("holds no traces"));
+        return false;
+    }
+    ListFolderOf(QDir(path).filePath(traces.first()));
+    return ShowPlace(0);
 }
 
 bool MainWindow::OverlayFile(const QString& path)
@@ -424,16 +433,26 @@ void MainWindow::Save()
         statusBar()->showMessage(tr("Saved to %1").arg(QFile::decodeName(name.c_str())));
 }
 
-void MainWindow::ShowPlace(int place)
+bool MainWindow::ShowPlace(int place)
 {
     const QString path = folder.File(place);
-    if (path.isEmpty() || OpenFile(path))
-        return;
-    // The next step goes on from the trace that couldn't be shown.
-    folder.ShowFile(path);
-    const QSignalBlocker quiet(files);
-    files->setCurrentRow(folder.Place());
+    if (path.isEmpty())
+        return false;
+    const bool shown = OpenFile(path);
+    // The next step goes on from a trace that couldn't be shown.
+    ListFolderOf(path);
     ShowSteps();
+    return shown;
+}
+
+void MainWindow::ListFolderOf(const QString& path)
+{
+    const QSignalBlocker quiet(files);
+    if (folder.ShowFile(path)) {
+        files->clear();
+        files->addItems(folder.Files());
+    }
+    files->setCurrentRow(folder.Place());
 }
 
 bool MainWindow::Guarded(const std::function<void()>& action)

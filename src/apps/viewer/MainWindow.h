@@ -26,7 +26,8 @@ public:
 
     PlotWidget& Chart() { return *chart; }
 
-    /// Shows a trace. False, with a message and the trace on show left alone, when it can't be shown.
+    /// Shows a trace, or a folder's first. False, with a message and the trace on show left alone, when it
+    /// can't be shown.
     bool OpenFile(const QString& path);
 
     /// Lays another trace's curve over the one on show, in the next free of five places. False, with a
@@ -55,7 +56,11 @@ private:
     void AskForPicture();
     void Save();
     void MakeFolderList();
-    void ShowPlace(int place);
+    bool OpenFolder(const QString& path);
+
+    /// Makes a file the one that the list of its folder stands on.
+    void ListFolderOf(const QString& path);
+    bool ShowPlace(int place);
     void ShowSteps();
 
     /// Runs what a user wants of the control. False at a fault of the trace's own numbers, which the status

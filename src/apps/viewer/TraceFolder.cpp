@@ -17,6 +17,12 @@ QStringList TracePatterns()
     return patterns;
 }
 
+QStringList TracesIn(const QString& folder)
+{
+    return QDir(folder).entryList(TracePatterns(), QDir::Files | QDir::Readable,
+                                  QDir::Name | QDir::IgnoreCase);
+}
+
 bool TraceFolder::ShowFile(const QString& path)
 {
     const QFileInfo file(path);
@@ -24,8 +30,7 @@ bool TraceFolder::ShowFile(const QString& path)
     const bool listed = file.absolutePath() != folder || !files.contains(name);
     if (listed) {
         folder = file.absolutePath();
-        files = QDir(folder).entryList(TracePatterns(), QDir::Files | QDir::Readable,
-                                       QDir::Name | QDir::IgnoreCase);
+        files = TracesIn(folder);
         // A trace may be called anything.
         if (!files.contains(name))
             files.append(name);

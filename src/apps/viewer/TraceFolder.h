@@ -10,6 +10,9 @@ namespace Traces::Viewer {
 /// Name patterns of raw traces and of all text trace files, "*.raw" first.
 QStringList TracePatterns();
 
+/// The names of a folder's traces, as their extensions tell, in order.
+QStringList TracesIn(const QString& folder);
+
 class TraceFolder {
 public:
     /// Makes a file the one on show. True when its folder was listed for that: the same one is listed again

@@ -1,4 +1,4 @@
-// traces-viewer [FILE...]: shows the first trace and lays the others over it.
+// traces-viewer [FILE...]: shows the first trace, or that of a folder, and lays the others over it.
 #include "apps/viewer/MainWindow.h"
 
 #include <QApplication>
@@ -17,9 +17,11 @@ int main(int argc, char** argv)
     parser.setApplicationDescription(QStringLiteral("Shows measurement traces."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("files"),
-                                 QStringLiteral("The first trace is shown, the others are laid over it."),
-                                 QStringLiteral("[FILE...]"));
+    parser.addPositionalArgument(
+        QStringLiteral("files"),
+        QStringLiteral("The first trace, or a folder's first, is shown; the others are laid "
+                       "over it."),
+        QStringLiteral("[FILE...]"));
     parser.process(application);
 
     Traces::Viewer::MainWindow window;
