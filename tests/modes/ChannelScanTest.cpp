@@ -1,11 +1,7 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
 #include "control/Input.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "support/ExpectFrame.h"
 #include "support/RawScans.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
 #include <gtest/gtest.h>
 
@@ -16,12 +12,7 @@ using Testing::RawBuilder;
 using Testing::RawScan;
 using Testing::WithChecksum;
 
-class ChannelScan : public testing::Test {
-protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
-};
+class ChannelScan : public Testing::ShownTrace {};
 
 TEST_F(ChannelScan, ListsItsFieldsAndAChannelALine)
 {
@@ -58,7 +49,6 @@ TEST_F(ChannelScan, CountsBeyondTheRecordAreBroughtWithinIt)
 
 TEST_F(ChannelScan, SaveLoadAndSaveGiveTheSameFileWithoutAnExtension)
 {
-    const Testing::TemporaryFolder folder;
     std::string first = folder / "scan";
     ASSERT_TRUE(plot.SaveRawTrace(RawScan({-4838, -12345, 1500}).AsText(), first));
     EXPECT_EQ(first, folder / "scan") << "no extension is appended";
@@ -99,7 +89,6 @@ TEST_F(ChannelScan, TheFrameIsTheRawRecordWithoutItsHead)
     Testing::ExpectFrame(plot.GetUpLoadTrace(""), expected);
     ASSERT_TRUE(plot.ShowTrace(RawScan(std::vector<int>(20, -5000)).Bytes()));
     EXPECT_EQ(plot.GetUpLoadTrace("").substr(255), "\xEC\x78") << "the last channel ends with the frame";
-    const Testing::TemporaryFolder folder;
     for (const char* name : {"a.raw", "a.cs"}) {
         ASSERT_TRUE(WriteWholeFile(folder / name, raw));
         EXPECT_EQ(plot.GetUpLoadTrace(folder / name), "") << name;

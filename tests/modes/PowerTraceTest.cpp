@@ -1,10 +1,7 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
 #include "formats/LibraryValues.h"
 #include "modes/power/PowerMeterTrace.h"
 #include "support/RawPower.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -18,11 +15,8 @@ using Testing::RawPower;
 using Testing::RawZephra;
 using Testing::WithChecksum;
 
-class PowerTrace : public testing::Test {
+class PowerTrace : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     PowerRecord& power = state.Power;
     ZephraRecord& zephra = state.Zephra;
 

@@ -1,11 +1,7 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "modes/power/PowerMeterTrace.h"
 #include "support/ExpectFrame.h"
 #include "support/RawPower.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
 #include <gtest/gtest.h>
 
@@ -15,6 +11,8 @@ namespace {
 using Testing::ExpectFrame;
 using Testing::RawBuilder;
 using Testing::RawPower;
+
+class PowerUpload : public Testing::ShownTrace {};
 
 /// RawPower's record 13 bytes below its raw offsets, blank where nothing is written.
 RawBuilder Frame()
@@ -35,28 +33,23 @@ RawBuilder PaddedFrame()
     return Frame().Text(32, std::string(10, '\0'));
 }
 
-TEST(PowerUpload, TheRecordRouteWritesTheDecodedFieldsBack)
+TEST_F(PowerUpload, TheRecordRouteWritesTheDecodedFieldsBack)
 {
-    HeadlessPlatform platform;
-    Plot plot(platform);
     ASSERT_TRUE(plot.ShowTrace(RawPower().Bytes()));
     ExpectFrame(plot.GetUpLoadTrace(""), PaddedFrame().Number(4, 4, 0));
     // The standard by its code again; "CAL ON" is no code.
     ASSERT_TRUE(plot.ShowTrace(RawPower().Text(12, "3.00").Number(155, 1, 1).Bytes()));
     ExpectFrame(plot.GetUpLoadTrace(""), PaddedFrame().Number(4, 4, 0).Number(79, 2, 49).Number(62, 1, 0));
-    const Testing::TemporaryFolder folder;
     for (const auto& [name, length] : {std::pair("a.pm", 141U), {"a.pmet", 141U}, {"a.pmon", 0U}}) {
         ASSERT_TRUE(WriteWholeFile(folder / name, "\r\n"));
         EXPECT_EQ(plot.GetUpLoadTrace(folder / name).size(), length) << name;
     }
 }
 
-TEST(PowerUpload, TheTextRouteTakesTheOffsetStatusForANumber)
+TEST_F(PowerUpload, TheTextRouteTakesTheOffsetStatusForANumber)
 {
-    HeadlessPlatform platform;
-    Plot plot(platform);
     ASSERT_TRUE(plot.ShowTrace(RawPower().Bytes()));
-    const std::string file = "CHECKSUM=0000000000\r\n" + plot.Instance().lstParameters.Text();
+    const std::string file = "CHECKSUM=0000000000\r\n" + state.lstParameters.Text();
     ExpectFrame(EncodePowerMeterText(file), Frame().Number(62, 1, 0));
     // What no byte and no channel holds is left blank.
     const std::string odd = EncodePowerMeterText("\r\nPower Meter Mode:\t300\r\nPower Offset Status:\t2\r\n"
@@ -67,7 +60,7 @@ TEST(PowerUpload, TheTextRouteTakesTheOffsetStatusForANumber)
     EXPECT_EQ(EncodePowerMeterText("\r\nChannel Selection:\t99999\r\n").substr(80, 2), "  ");
 }
 
-TEST(PowerUpload, TheRawRouteMovesBytesUnconverted)
+TEST_F(PowerUpload, TheRawRouteMovesBytesUnconverted)
 {
     const RawBuilder raw = RawPower().Number(75, 1, 77).Number(96, 2, 12).Number(155, 1, 1);
     ExpectFrame(EncodePowerMeterRaw(raw.AsText()),

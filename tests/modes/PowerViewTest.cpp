@@ -1,12 +1,10 @@
 #include "chart/Panel.h"
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
 #include "control/Input.h"
-#include "control/Plot.h"
 #include "formats/Numbers.h"
 #include "modes/power/PowerLadder.h"
 #include "output/Describe.h"
 #include "support/RawPower.h"
+#include "support/ShownTrace.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -22,12 +20,8 @@ using Testing::RawZephra;
 constexpr Colour Red = 255;
 constexpr Colour Green = 65280;
 
-class PowerView : public testing::Test {
+class PowerView : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
-
     void Show(const RawBuilder& raw) { ASSERT_TRUE(plot.ShowTrace(raw.Bytes())); }
 
     /// A reading in thousandths of a dBm, shown in watts.
@@ -41,16 +35,13 @@ protected:
     static std::string Texts(const ChartSurface& surface, bool placed = true)
     {
         std::string shown;
-        for (const DrawCommand& command : surface.Picture())
-            if (const auto* text = std::get_if<TextCommand>(&command)) {
-                shown += shown.empty() ? "" : "|";
-                if (placed)
-                    shown += std::string(text->Ink == White ? "w"
-                                         : text->Ink == Red ? "r"
-                                                            : "") +
-                             NumberText(text->At.X) + "," + NumberText(text->At.Y) + " ";
-                shown += text->Text;
-            }
+        for (const TextCommand& text : CommandsOf<TextCommand>(surface)) {
+            const std::string ink = text.Ink == White ? "w" : text.Ink == Red ? "r" : "";
+            shown += shown.empty() ? "" : "|";
+            if (placed)
+                shown += ink + NumberText(text.At.X) + "," + NumberText(text.At.Y) + " ";
+            shown += text.Text;
+        }
         return shown;
     }
 
@@ -58,11 +49,10 @@ protected:
     std::vector<float> Ticks() const
     {
         std::vector<float> heights;
-        for (const DrawCommand& command : state.PMHolder.Picture())
-            if (const auto* fill = std::get_if<FillCommand>(&command); fill && fill->Ink == White) {
-                EXPECT_EQ(fill->From.X, 50 + 20 * static_cast<float>(heights.size()));
-                heights.push_back(fill->To.Y - fill->From.Y);
-            }
+        for (const FillCommand& tick : Fills(state.PMHolder, White)) {
+            EXPECT_EQ(tick.From.X, 50 + 20 * static_cast<float>(heights.size()));
+            heights.push_back(tick.To.Y - tick.From.Y);
+        }
         return heights;
     }
 

@@ -1,13 +1,9 @@
 #include "modes/vna_spa/SPATrace.h"
 
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "support/ExpectFrame.h"
 #include "support/Faults.h"
 #include "support/RawSpectra.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -22,12 +18,8 @@ using Testing::RawLevel;
 using Testing::RawSpectrum;
 using Testing::WithChecksum;
 
-class SPATrace : public testing::Test {
+class SPATrace : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
-
     void Load(const std::string& lines) { plot.LoadSPAText(WithChecksum(lines), {}); }
 };
 
@@ -156,7 +148,6 @@ TEST_F(SPATrace, PointsAreFoundByTheirKeysHoweverTheirLinesStand)
 
 TEST_F(SPATrace, SaveLoadAndSaveGiveTheSameFile)
 {
-    const Testing::TemporaryFolder folder;
     RawBuilder raw = RawSpectrum({-62.2, -48.5, -70.125});
     raw.Number(364, 4, 4'025'017); // 7 digits survive the float that loaders go through
     std::string first = folder / "first.spa";
@@ -205,9 +196,8 @@ TEST_F(SPATrace, TheRecordRouteWritesTheDecodedFieldsBack)
 TEST_F(SPATrace, TheTextRouteMissesThreeKeysOfOurOwnFiles)
 {
     ASSERT_TRUE(plot.ShowTrace(RawSpectrum({-62.2, -48.5}).Bytes()));
-    std::string text = "CHECKSUM=0000000000\r\n";
-    for (const auto& line : plot.ParametersToSave())
-        text += line + "\r\n";
+    plot.ParametersToSave();
+    std::string text = "CHECKSUM=0000000000\r\n" + state.lstParameters.Text();
     RawBuilder expected = ExpectedFrame();
     expected.Number(52, 4, 0).Number(56, 4, 0).Number(292, 4, 0);
     ExpectFrame(EncodeSPAText(text), expected);
@@ -225,7 +215,6 @@ TEST_F(SPATrace, TheTextRouteMissesThreeKeysOfOurOwnFiles)
 
 TEST_F(SPATrace, TheRawRouteMovesBytesAndLeavesACopy)
 {
-    const Testing::TemporaryFolder folder;
     const auto home = std::filesystem::current_path();
     std::filesystem::current_path(folder.Path());
     RawBuilder expected = ExpectedFrame();

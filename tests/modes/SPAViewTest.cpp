@@ -1,8 +1,6 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
 #include "control/PlotEvents.h"
 #include "support/RawSpectra.h"
+#include "support/ShownTrace.h"
 
 #include <gtest/gtest.h>
 
@@ -12,11 +10,8 @@ namespace {
 using Testing::RawBuilder;
 using Testing::RawSpectrum;
 
-class SPAView : public testing::Test, protected PlotEvents {
+class SPAView : public Testing::ShownTrace, protected PlotEvents {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
     std::vector<std::pair<int, bool>> changes;
 
     void MarkerChanged(std::int16_t index, bool value) override { changes.emplace_back(index, value); }

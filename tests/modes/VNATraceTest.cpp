@@ -1,12 +1,8 @@
 #include "modes/vna_spa/VNATrace.h"
 
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "formats/HostFault.h"
 #include "support/RawBuilder.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
 #include <gtest/gtest.h>
 
@@ -17,12 +13,8 @@ using Testing::RawBuilder;
 using Testing::RawSweep;
 using Testing::WithChecksum;
 
-class VNATrace : public testing::Test {
+class VNATrace : public Testing::ShownTrace {
 protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
-
     void Load(const std::string& lines) { plot.LoadVNAText(WithChecksum(lines), {}); }
 };
 
@@ -138,7 +130,6 @@ TEST_F(VNATrace, DistanceTracesKeepTheMagnitudesOfTheTraceBefore)
 
 TEST_F(VNATrace, SaveLoadAndSaveGiveTheSameFile)
 {
-    const Testing::TemporaryFolder folder;
     std::string first = folder / "first.vna";
     RawBuilder raw = RawSweep(0, {1234, 0, 7777});
     raw.Number(202, 4, 4'025'017); // 7 digits survive the float that loaders go through

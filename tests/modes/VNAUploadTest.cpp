@@ -1,12 +1,8 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
-#include "formats/Files.h"
 #include "modes/vna_spa/VNATrace.h"
 #include "support/ExpectFrame.h"
 #include "support/Faults.h"
 #include "support/RawBuilder.h"
-#include "support/TraceFiles.h"
+#include "support/ShownTrace.h"
 
 #include <gtest/gtest.h>
 
@@ -37,12 +33,7 @@ void PutSweepSettings(RawBuilder& frame)
     frame.Number(187, 2, 49);
 }
 
-class VNAUpload : public testing::Test {
-protected:
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
-};
+class VNAUpload : public Testing::ShownTrace {};
 
 TEST_F(VNAUpload, TheRecordRouteWritesTheDecodedFieldsBack)
 {
@@ -66,9 +57,7 @@ TEST_F(VNAUpload, TheRecordRouteWritesTheDecodedFieldsBack)
 TEST_F(VNAUpload, TheTextRouteSendsTheOffsetForEachPointOfOurOwnFiles)
 {
     ASSERT_TRUE(plot.ShowTrace(RawSweep(2, {1000, 10000}).Bytes()));
-    std::string text;
-    for (const auto& line : plot.ParametersToSave())
-        text += line + "\r\n";
+    plot.ParametersToSave();
     RawBuilder expected(2004, ' ');
     expected.Number(1, 2, 2004).Number(3, 1, 48).Number(4, 4, 0);
     expected.Text(8, "11/22/2026").Text(18, "10:20:30").Text(26, "TOWER7").Number(42, 2, 2);
@@ -78,7 +67,7 @@ TEST_F(VNAUpload, TheTextRouteSendsTheOffsetForEachPointOfOurOwnFiles)
         expected.Number(158 + 2 * k, 2, 202);
     expected.Number(189, 4, 40'250'170).Number(193, 4, -3'422'250).Number(197, 2, -667);
     expected.Number(401, 4, 270'000).Number(405, 4, 270'000);
-    ExpectFrame(EncodeVNAText("CHECKSUM=0000000000\r\n" + text), expected);
+    ExpectFrame(EncodeVNAText("CHECKSUM=0000000000\r\n" + state.lstParameters.Text()), expected);
 }
 
 TEST_F(VNAUpload, TheTextRouteReadsNumberedPointsAndStopsAtTheFramesEnd)
@@ -113,7 +102,6 @@ TEST_F(VNAUpload, TheRawRouteMovesBytesUnconverted)
 
 TEST_F(VNAUpload, FilesGoByTheirExtensionAndTheRawModeByte)
 {
-    const Testing::TemporaryFolder folder;
     const auto put = [&](const char* name, const std::string& content) {
         std::string path = folder / name;
         EXPECT_TRUE(WriteWholeFile(path, content));

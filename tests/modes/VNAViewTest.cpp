@@ -1,8 +1,6 @@
-#include "control/Control.h"
-#include "control/HeadlessPlatform.h"
-#include "control/Plot.h"
 #include "output/Svg.h"
 #include "support/RawBuilder.h"
+#include "support/ShownTrace.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +9,9 @@ namespace {
 
 using Testing::RawSweep;
 
-class VNAView : public testing::Test {
+class VNAView : public Testing::ShownTrace {
 protected:
     VNAView() { plot.ShowTrace(RawSweep(0, {1000, 3162, 100}).Bytes()); }
-
-    HeadlessPlatform platform;
-    Plot plot{platform};
-    Control& state = plot.Instance();
 
     static const TextCommand& TextAt(const ChartSurface& surface, std::size_t index)
     {
