@@ -59,28 +59,23 @@ TEST_F(CDMA, FirmwareChoosesBiasStandardAndLayout)
 {
     const struct {
         const char* Version;
-        double Channel;
-        const char* Standard;
-        std::size_t Lines;
-        std::int16_t FirstPN;
-    } cases[] = {{"3.14", -72, "Tacs", 7, 1},
-                 {"3.15", -32, "PCS 1900 CDMA", 7, 1},
-                 {"3.20", -32, "PCS 1900 CDMA", 9, 1}};
+        float Channel;
+        std::string Standard;
+        bool Newer;
+    } cases[] = {{"3.14", -72, SignalStandard.Text(62), false},
+                 {"3.15", -32, "PCS 1900 CDMA", false},
+                 {"3.20", -32, "PCS 1900 CDMA", true}};
     for (const auto& each : cases) {
         SCOPED_TRACE(each.Version);
         EXPECT_TRUE(plot.ShowTrace(RawCDMA(each.Version, 128).Bytes()));
-        EXPECT_FLOAT_EQ(record.ChannelPowerRMS, static_cast<float>(each.Channel));
-        if (std::string_view(each.Version) != "3.14") {
-            EXPECT_EQ(record.SignalStandard, each.Standard);
-        } else {
-            EXPECT_EQ(record.SignalStandard, SignalStandard.Text(62));
-        }
-        EXPECT_EQ(record.PilotScanPN[0], each.FirstPN);
+        EXPECT_FLOAT_EQ(record.ChannelPowerRMS, each.Channel);
+        EXPECT_EQ(record.SignalStandard, each.Standard);
+        EXPECT_EQ(record.PilotScanPN[0], 1);
         EXPECT_EQ(record.PilotScanPN[6], 73);
         EXPECT_FLOAT_EQ(record.Tau, 2.4F);
         EXPECT_EQ(record.GpsLongitude, -90'122'400);
         const std::string lines = state.lstParameters.Text();
-        EXPECT_EQ(lines.find("Pilot Scan PN 9:") != std::string::npos, each.Lines == 9);
+        EXPECT_EQ(lines.find("Pilot Scan PN 9:") != std::string::npos, each.Newer);
         EXPECT_NE(lines.find("Options:\tCDMA/OTA/RF\r\nMarker Position 1:\t1\r\n"), std::string::npos);
         EXPECT_NE(lines.find("Channel:\tN/A\r\nRefLelOffset CalStatus:\t0\r\n"), std::string::npos);
         EXPECT_NE(lines.find("CDP Data 001:\t-20\t0\tPILOT\r\n"), std::string::npos);

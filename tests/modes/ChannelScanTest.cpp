@@ -17,17 +17,13 @@ class ChannelScan : public Testing::ShownTrace {};
 TEST_F(ChannelScan, ListsItsFieldsAndAChannelALine)
 {
     ASSERT_TRUE(plot.ShowTrace(RawScan({-4838, -12345}).Bytes()));
-    const auto lines = plot.Parameters();
-    EXPECT_EQ(lines[3], "Mode:\tCS");
-    EXPECT_EQ(lines[7], "DataPoints:\t2") << "the channels, not what the head told";
-    EXPECT_EQ(
-        std::vector<std::string>(lines.begin() + 8, lines.end()),
-        (std::vector<std::string>{
-            "Start Frequency:\t946.5", "Stop Frequency:\t950.5", "Ref Level:\t-40", "Scale/Div:\t10",
-            "RBW Setting:\t30000", "VBW Setting:\t10000", "Channel Bandwidth:\t0.25", "Attenuation:\t5.5",
-            "Signal Standard:\tGSM 900", "Signal Standard Link Type:\tDownlink", "Single Limit:\t-60",
-            "GPS Latitude:\t40250000", "GPS Longitude:\t-3422000", "GPS Altitude:\t667", "Channels:\t2",
-            "Channel 1:\t101\t947\t-48.38", "Channel 2:\t102\t947.25\t-123.45"}));
+    EXPECT_EQ(Lines(3, 1), "Mode: CS");
+    EXPECT_EQ(Lines(7, 1), "DataPoints: 2") << "the channels, not what the head told";
+    EXPECT_EQ(Lines(), "Start Frequency: 946.5|Stop Frequency: 950.5|Ref Level: -40|Scale/Div: 10|"
+                       "RBW Setting: 30000|VBW Setting: 10000|Channel Bandwidth: 0.25|Attenuation: 5.5|"
+                       "Signal Standard: GSM 900|Signal Standard Link Type: Downlink|Single Limit: -60|"
+                       "GPS Latitude: 40250000|GPS Longitude: -3422000|GPS Altitude: 667|Channels: 2|"
+                       "Channel 1: 101 947 -48.38|Channel 2: 102 947.25 -123.45");
     EXPECT_EQ(state.TraceSlots[0].X, (std::vector<float>{1, 2}));
     EXPECT_EQ(state.TraceSlots[0].Y, (std::vector<float>{-48.38F, -123.45F}));
     EXPECT_EQ(state.YScaleTop, 20);

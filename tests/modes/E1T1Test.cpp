@@ -53,28 +53,23 @@ TEST_F(LineTest, ListsFieldsSlicesAndReadingsInOrder)
     ASSERT_TRUE(plot.ShowTrace(RawLineTest(E1).Bytes()));
     const auto lines = plot.Parameters();
     ASSERT_EQ(lines.size(), 8U + 38 + 100 + 15);
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + 8, lines.begin() + 18),
-              (std::vector<std::string>{
-                  "Receive Input:\tMonitor", "Framing Mode:\tESF", "Line Coding:\tB8ZS", "Tx Level:\t-15 dB",
-                  "Clock Source:\tInternal", "Error Insert Type:\tBit Errors", "Loop Code:\tNIU",
-                  "Loop Type:\tIn Band", "CRC Method:\tJapanese CRC", "Display Type:\tHistogram"}));
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + 28, lines.begin() + 47),
-              (std::vector<std::string>{
-                  "Carrier Status:\tIn Sync", "Rx Alarms:\tReceiving RAI", "BPV Error Count:\t100000",
-                  "CRC Error Count:\t100001", "Severely Error Seconds:\t5", "Unavailable Seconds:\t66",
-                  "Degraded Minutes:\t4", "Frame Error Count:\t100002", "LOF Error Count:\t100003",
-                  "E_Bit Error Count:\t100004", "Errored Seconds:\t40", "Bit Count:\t100006",
-                  "Bit Errors:\t100007", "User Defined Pattern:\t100008", "Measurement Start Time:\t14:05:30",
-                  "Measurement Stop Time:\t14:07:15   ", "Elapsed Time:\t00 01:01:45",
-                  "Bit Error Rate:\t3.2E-04 ", "Data(1):\t0\t0"}));
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + 145, lines.end()),
-              (std::vector<std::string>{
-                  "Data(100):\t3\t970299", "VPP/dBdsx:\t6.1", "VPP Scaling:\t1", "VPP Rx Config:\tBridged",
-                  "VPP Impedance:\t120 Ohms", "T1E1 Receive Freq:\t1.544007", "GPS Latitude:\t52312400",
-                  "GPS Longitude:\t-4541900", "GPS Altitude:\t12", "DS0/E0 Channel Insert State:\t1",
-                  "DS0/E0 Channel Number:\t17", "DS0/E0 Audio Monitor Volume:\t60", "DS0/E0 Send Level:\t-13",
-                  "DS0/E0 Send Frequency:\t1004", "DS0/E0 Receive Level:\t-13.7",
-                  "DS0/E0 Receive Frequency:\t1005"}));
+    EXPECT_EQ(Lines(8, 10), "Receive Input: Monitor|Framing Mode: ESF|Line Coding: B8ZS|Tx Level: -15 dB|"
+                            "Clock Source: Internal|Error Insert Type: Bit Errors|Loop Code: NIU|"
+                            "Loop Type: In Band|CRC Method: Japanese CRC|Display Type: Histogram");
+    EXPECT_EQ(Lines(28, 19),
+              "Carrier Status: In Sync|Rx Alarms: Receiving RAI|BPV Error Count: 100000|"
+              "CRC Error Count: 100001|Severely Error Seconds: 5|Unavailable Seconds: 66|"
+              "Degraded Minutes: 4|Frame Error Count: 100002|LOF Error Count: 100003|"
+              "E_Bit Error Count: 100004|Errored Seconds: 40|Bit Count: 100006|"
+              "Bit Errors: 100007|User Defined Pattern: 100008|Measurement Start Time: 14:05:30|"
+              "Measurement Stop Time: 14:07:15   |Elapsed Time: 00 01:01:45|"
+              "Bit Error Rate: 3.2E-04 |Data(1): 0 0");
+    EXPECT_EQ(Lines(145), "Data(100): 3 970299|VPP/dBdsx: 6.1|VPP Scaling: 1|VPP Rx Config: Bridged|"
+                          "VPP Impedance: 120 Ohms|T1E1 Receive Freq: 1.544007|GPS Latitude: 52312400|"
+                          "GPS Longitude: -4541900|GPS Altitude: 12|DS0/E0 Channel Insert State: 1|"
+                          "DS0/E0 Channel Number: 17|DS0/E0 Audio Monitor Volume: 60|DS0/E0 Send Level: -13|"
+                          "DS0/E0 Send Frequency: 1004|DS0/E0 Receive Level: -13.7|"
+                          "DS0/E0 Receive Frequency: 1005");
     EXPECT_EQ(record.Record687, 33);
     EXPECT_EQ(plot.count(), 100);
     EXPECT_EQ(state.TraceSlots[0].X[99], 100);

@@ -99,10 +99,9 @@ TEST_F(EvDO, TextRouteBringsBackWhatItsKeysHold)
         EXPECT_EQ(record.PilotScanPower, shown.PilotScanPower);
         EXPECT_EQ(record.PilotTau, shown.PilotTau);
         EXPECT_EQ(record.Tau, shown.Tau);
-        EXPECT_EQ(record.SearchMode, 3);
-        EXPECT_EQ(record.DataModulation, 4);
-        EXPECT_EQ(record.MeasuredDataModulationType, 2);
-        EXPECT_EQ(record.DataMarkers, 2);
+        EXPECT_EQ(std::tuple(record.SearchMode, record.DataModulation, record.MeasuredDataModulationType,
+                             record.DataMarkers),
+                  std::tuple(3, 4, 2, 2));
         EXPECT_EQ(record.GpsLongitude, -90'183'600);
         EXPECT_EQ(record.CDPMACPower[63], shown.CDPMACPower[63]);
         EXPECT_EQ(record.CDPMACType[5], 5);
@@ -198,16 +197,10 @@ TEST_F(EvDO, SlotsThatWerentCapturedSaySo)
     raw.Number(81, 1, 4).Number(264 + 44, 4, 250).Number(264 + 48, 4, 250);
     plot.ShowTrace(raw.Bytes());
     ASSERT_EQ(record.DataPowerIdle, EvDONotCaptured);
-    const auto says = [](const ChartSurface& surface, std::string_view text) {
-        return std::ranges::any_of(surface.Picture(), [&](const DrawCommand& command) {
-            const auto* shown = std::get_if<TextCommand>(&command);
-            return shown != nullptr && shown->Text == text;
-        });
-    };
-    EXPECT_TRUE(says(state.EvDOSubBox, "No Idle Slot"));
-    EXPECT_TRUE(says(state.EvDOHolder, "N/A"));
+    EXPECT_TRUE(Says(state.EvDOSubBox, "No Idle Slot"));
+    EXPECT_TRUE(Says(state.EvDOHolder, "N/A"));
     RunMenuItem(state, {"menuEvDORFSpecActive"}, false);
-    EXPECT_TRUE(says(state.EvDOSubBox, "No Data Captured"));
+    EXPECT_TRUE(Says(state.EvDOSubBox, "No Data Captured"));
 }
 
 } // namespace

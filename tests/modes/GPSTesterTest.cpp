@@ -43,30 +43,15 @@ protected:
 TEST_F(GPSTester, ListsWordsThatShareBytesAndALineAnEvent)
 {
     ASSERT_TRUE(plot.ShowTrace(RawCheck(FourEvents).Bytes()));
-    const auto lines = plot.Parameters();
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + 8, lines.end()),
-              (std::vector<std::string>{
-                  "Auto Save Count:\t3",
-                  "Auto Save Flag:\tTrue",
-                  "Current Draw:\t85",
-                  "GPS Altitude:\t519",
-                  "GPS Latitude:\t48082500",
-                  "GPS Longitude:\t-11345000",
-                  "GPS Fix Time:\t102030.00",
-                  "GPS Quality:\t256",
-                  "Hundred Event List:\t256",
-                  "Length of Event List:\t4",
-                  "Lost GPS Time:\t",
-                  "Measurement Status:\t1",
-                  "Measurement Time Duration:\t3600",
-                  "Remaining Measure Time:\t120",
-                  "Tracked GPS Satellites:\t9",
-                  "UTC Time:\t102100.00",
-                  "View Mode:\t512",
-                  "GPS Tester Data 001:\t102030\tGPS Status Good\t(80mA)\t1\t119\t020612102031",
-                  "GPS Tester Data 002:\t102115\tTracked 7 satellites\t(81mA)\t2\t147\t020612102031",
-                  "GPS Tester Data 003:\t102200\tGPS Status Bad\t(82mA)\t1\t175\t020612102031",
-                  "GPS Tester Data 004:\t102245\tTracked 0 satellites\t(83mA)\t2\t203\t020612102031"}));
+    EXPECT_EQ(Lines(), "Auto Save Count: 3|Auto Save Flag: True|Current Draw: 85|GPS Altitude: 519|"
+                       "GPS Latitude: 48082500|GPS Longitude: -11345000|GPS Fix Time: 102030.00|"
+                       "GPS Quality: 256|Hundred Event List: 256|Length of Event List: 4|Lost GPS Time: |"
+                       "Measurement Status: 1|Measurement Time Duration: 3600|Remaining Measure Time: 120|"
+                       "Tracked GPS Satellites: 9|UTC Time: 102100.00|View Mode: 512|"
+                       "GPS Tester Data 001: 102030 GPS Status Good (80mA) 1 119 020612102031|"
+                       "GPS Tester Data 002: 102115 Tracked 7 satellites (81mA) 2 147 020612102031|"
+                       "GPS Tester Data 003: 102200 GPS Status Bad (82mA) 1 175 020612102031|"
+                       "GPS Tester Data 004: 102245 Tracked 0 satellites (83mA) 2 203 020612102031");
     EXPECT_EQ(plot.GPSLocation().find("N48"), std::string::npos) << "the mode has no position for hosts";
 }
 

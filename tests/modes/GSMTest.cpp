@@ -46,14 +46,11 @@ TEST_F(GSM, ListsFieldsAndThreeCurvesALine)
     ASSERT_TRUE(plot.ShowTrace(RawBurst("3.15", 0).Bytes()));
     const auto lines = plot.Parameters();
     ASSERT_EQ(lines.size(), 8U + 17 + 401);
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + 8, lines.begin() + 26),
-              (std::vector<std::string>{
-                  "Scale Divisor:\t10000", "Center Frequency:\t947.5", "External Reference Frequency:\t10",
-                  "Signal Standard:\tGSM 900", "Display Type:\t0", "Display Units:\tdBm",
-                  "Power Offset:\t270", "Channel:\t62", "GPS Latitude:\t48082500",
-                  "GPS Longitude:\t-11345000", "GPS Altitude:\t519", "RefLelOffset CalStatus:\t3",
-                  "Measured Channel Power:\t40", "Measured Burst Power:\t1", "Frequency Error:\t-47",
-                  "Occupied Bandwidth:\t245.6", "Measured TSC:\t5", "000:\t0\t40\t62.14"}));
+    EXPECT_EQ(Lines(8, 18), "Scale Divisor: 10000|Center Frequency: 947.5|External Reference Frequency: 10|"
+                            "Signal Standard: GSM 900|Display Type: 0|Display Units: dBm|Power Offset: 270|"
+                            "Channel: 62|GPS Latitude: 48082500|GPS Longitude: -11345000|GPS Altitude: 519|"
+                            "RefLelOffset CalStatus: 3|Measured Channel Power: 40|Measured Burst Power: 1|"
+                            "Frequency Error: -47|Occupied Bandwidth: 245.6|Measured TSC: 5|000: 0 40 62.14");
     EXPECT_EQ(lines.back(), "400:\t-3.2\t38.4\t60.54");
     EXPECT_EQ(plot.count(), 401);
     EXPECT_EQ(state.YScaleTop, 10);

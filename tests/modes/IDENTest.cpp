@@ -50,49 +50,21 @@ TEST_F(IDEN, ListsFieldsAndCurvesThatRunOnePointOver)
     ASSERT_TRUE(plot.ShowTrace(RawAnalysis(0).Bytes()));
     const auto lines = plot.Parameters();
     ASSERT_EQ(lines.size(), 8U + 42 + 3 * 402 + 480);
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + 8, lines.begin() + 50),
-              (std::vector<std::string>{"ViewMode:\t0",
-                                        "ExternalReferenceFrequency:\t1",
-                                        "ExternalReferenceFrequencyStatus:\t3",
-                                        "CenterFrequency:\t851.125",
-                                        "GPS Altitude:\t320",
-                                        "GPS Latitude:\t33447500",
-                                        "GPS Longitude:\t-84233900",
-                                        "UTC Time:\t152010.00",
-                                        "ACPRFrequencySpan:\t150",
-                                        "ReferenceLevel:\t-20",
-                                        "ScalePerDivision:\t10",
-                                        "SignalStandardID:\t71",
-                                        "SignalStandardName:\tiDEN 800",
-                                        "SignalStatus:\t4",
-                                        "FrequencyError:\t-18",
-                                        "PeaktoaverageRatio:\t7.1",
-                                        "SubchannelSlot1ChannelPower:\t-28.1",
-                                        "SubchannelSlot2ChannelPower:\t-28.2",
-                                        "SubchannelSlot3ChannelPower:\t-28.3",
-                                        "SubchannelSlot4ChannelPower:\t-28.4",
-                                        "MainChannelOccupiedBandwidth:\t17.85",
-                                        "AdjacentChannelPowerRatio1:\t-60.1",
-                                        "AdjacentChannelPowerRatio2:\t-60.2",
-                                        "AdjacentChannelPowerRatio3:\t-60.3",
-                                        "AdjacentChannelPowerRatio4:\t0",
-                                        "AdjacentChannelPowerRatio5:\t-60.5",
-                                        "AdjacentChannelPowerRatio6:\t-60.6",
-                                        "AdjacentChannelPowerRatio7:\t-60.7",
-                                        "MainChannelPower:\t-22.4",
-                                        "DemodSQE:\t26",
-                                        "PhaseNoise:\t-92",
-                                        "Rho:\t997",
-                                        "EVMAverage:\t5",
-                                        "Subchannel1EVM:\t5",
-                                        "Subchannel2EVM:\t6",
-                                        "Subchannel3EVM:\t7",
-                                        "Subchannel4EVM:\t8",
-                                        "ActiveSlotPower:\t-22.2",
-                                        "AverageDutyCycle:\t51",
-                                        "OnOffRatio:\t74",
-                                        "channel:\t1129",
-                                        "DemodStatus:\t200"}));
+    EXPECT_EQ(Lines(8, 42), "ViewMode: 0|ExternalReferenceFrequency: 1|ExternalReferenceFrequencyStatus: 3|"
+                            "CenterFrequency: 851.125|GPS Altitude: 320|GPS Latitude: 33447500|"
+                            "GPS Longitude: -84233900|UTC Time: 152010.00|ACPRFrequencySpan: 150|"
+                            "ReferenceLevel: -20|ScalePerDivision: 10|SignalStandardID: 71|"
+                            "SignalStandardName: iDEN 800|SignalStatus: 4|FrequencyError: -18|"
+                            "PeaktoaverageRatio: 7.1|SubchannelSlot1ChannelPower: -28.1|"
+                            "SubchannelSlot2ChannelPower: -28.2|SubchannelSlot3ChannelPower: -28.3|"
+                            "SubchannelSlot4ChannelPower: -28.4|MainChannelOccupiedBandwidth: 17.85|"
+                            "AdjacentChannelPowerRatio1: -60.1|AdjacentChannelPowerRatio2: -60.2|"
+                            "AdjacentChannelPowerRatio3: -60.3|AdjacentChannelPowerRatio4: 0|"
+                            "AdjacentChannelPowerRatio5: -60.5|AdjacentChannelPowerRatio6: -60.6|"
+                            "AdjacentChannelPowerRatio7: -60.7|MainChannelPower: -22.4|DemodSQE: 26|"
+                            "PhaseNoise: -92|Rho: 997|EVMAverage: 5|Subchannel1EVM: 5|Subchannel2EVM: 6|"
+                            "Subchannel3EVM: 7|Subchannel4EVM: 8|ActiveSlotPower: -22.2|AverageDutyCycle: 51|"
+                            "OnOffRatio: 74|channel: 1129|DemodStatus: 200");
     EXPECT_EQ(lines[50], "ACPRSpectrumPower000:\t-30");
     EXPECT_EQ(lines[50 + 401], "ACPRSpectrumPower401:\t-40") << "the first point of the next block";
     EXPECT_EQ(lines[50 + 402], "PointsofSpectrumPower000:\t-40");

@@ -20,25 +20,13 @@ protected:
     PowerRecord& power = state.Power;
     ZephraRecord& zephra = state.Zephra;
 
-    /// The parameter list from a line on, by default behind the header's eight, with "|" between its lines
-    /// and a blank for a tab.
-    static std::string Lines(const Plot& plot, std::size_t first = 8)
-    {
-        std::string text;
-        const auto lines = plot.Parameters();
-        for (const std::string& line : std::span(lines).subspan(first))
-            text += (text.empty() ? "" : "|") + line;
-        std::ranges::replace(text, '\t', ' ');
-        return text;
-    }
-
     /// Loads the trace's lines into another control, which must save the same. What that lists after the
     /// load.
     std::string LinesLoaded(void (Plot::*load)(std::string_view, const std::string&))
     {
         Plot other(platform);
         (other.*load)(WithChecksum(state.lstParameters.Text()), {});
-        const std::string lines = Lines(other);
+        const std::string lines = LinesOf(other);
         EXPECT_EQ(other.ParametersToSave(), plot.Parameters());
         return lines;
     }
@@ -55,7 +43,7 @@ TEST_F(PowerTrace, AMeterListsEveryFieldInItsOrder)
         "Signal Standard: UHF TV channel 35|Signal Standard Link Type: Downlink|"
         "Channel Selection: 35|GPS Latitude: 44588170|GPS Longitude: -93159000|GPS Altitude: 253|"
         "Power Meter Reading: -36.57";
-    EXPECT_EQ(Lines(plot), expected);
+    EXPECT_EQ(Lines(), expected);
     EXPECT_EQ(Library().TraceVersionValue, 3.2);
     EXPECT_EQ(plot.TraceType(), "PM");
     EXPECT_NE(plot.GPSLocation().find("N44\xB0 58.817'"), std::string::npos);
@@ -87,7 +75,7 @@ TEST_F(PowerTrace, GatesAndFlagsOfAMeterTurnAtTheirValues)
     EXPECT_EQ(power.StopFreq, 6025);
     EXPECT_EQ(power.ExternalRefFreq, 10) << "the selector isn't for it";
     EXPECT_EQ(power.PowerOffset, 4294967.5F) << "unsigned";
-    EXPECT_NE(Lines(plot).find("Channel Selection: N/A|"), std::string::npos);
+    EXPECT_NE(Lines().find("Channel Selection: N/A|"), std::string::npos);
 }
 
 TEST_F(PowerTrace, ShortBuffersReadAsZeroBehindTheirEnd)
@@ -116,7 +104,7 @@ TEST_F(PowerTrace, AMonitorLeavesWhatItDoesNotSetAndIsLoadedAsAMeter)
         "Power Monitor Mode: 3|Power Monitor Unit: 1|Power Offset Status: ON|Power Offset: 12.5|"
         "Power Relative Status: OFF|Power Relative: -50.25|Power Zero Status: OFF|"
         "GPS Latitude: 44588170|GPS Longitude: -93159000|GPS Altitude: 253|Power Monitor Reading: -50";
-    EXPECT_EQ(Lines(plot), expected);
+    EXPECT_EQ(Lines(), expected);
     EXPECT_NE(plot.GPSLocation().find("N/A"), std::string::npos) << "whatever the record holds";
     EXPECT_EQ(plot.GetUpLoadTrace(""), "");
     const std::string loaded = LinesLoaded(&Plot::LoadPowerMonitorText);
@@ -136,7 +124,7 @@ TEST_F(PowerTrace, AHighAccuracyReadingListsEveryFieldAndTheLinkTypeTwice)
         "Upper Limit dBm: 10|Lower Limit dBm: -30.5|Limit Unit Display: 0|Error Mes Status: 0|"
         "GPS Latitude: -33512345|GPS Longitude: 151123456|GPS Altitude: 58|Signal Std Link Type: -2|"
         "UTC Time: 23:59:58";
-    EXPECT_EQ(Lines(plot), expected);
+    EXPECT_EQ(Lines(), expected);
     EXPECT_EQ(plot.TraceType(), "");
     power.GpsLatitude = 1'000'000;
     EXPECT_NE(plot.GPSLocation().find("N1\xB0 0.000'"), std::string::npos) << "of the other record";
@@ -174,7 +162,7 @@ TEST_F(PowerTrace, LoadingAMeterKeepsNumbersAndEmptiesTextsThatAreNotThere)
                             {});
     // Numbers that can't be read stay, texts aren't checked against their tables, whole numbers keep all
     // digits.
-    EXPECT_EQ(Lines(plot),
+    EXPECT_EQ(Lines(),
               "Power Meter Mode: 3|Power Meter Unit: 1|Start Frequency: 596|Stop Frequency: 1000.5|"
               "Center Freq: 599.25|Freq Span: 6.5|Power Offset Status: whatever|Power Offset: 4|"
               "Power Relative Status: |Power Relative: -50.25|RMS Averaging Level: |Power Zero Status: |"
@@ -207,12 +195,12 @@ TEST_F(PowerTrace, ACommaFormLoadsScrambledOrNot)
         "External Ref Freq: 10|Signal Standard: GSM 1800|Signal Standard Link Type: Unknown|"
         "Channel Selection: 124|GPS Latitude: -1|GPS Longitude: -1|GPS Altitude: -30000|"
         "Power Meter Reading: -7.25";
-    EXPECT_EQ(Lines(plot, 0), expected);
+    EXPECT_EQ(Lines(0), expected);
     EXPECT_TRUE(state.PMHolder.Visible && platform.Messages.empty()) << "no checksum is asked for";
     platform.Scramble = {};
     power = {};
     plot.LoadPowerMeterDat(DatText);
-    EXPECT_EQ(Lines(plot, 0), expected);
+    EXPECT_EQ(Lines(0), expected);
 }
 
 TEST_F(PowerTrace, CommaFormsKeepEmptyQuotedFieldsInTheirPlaces)

@@ -26,38 +26,30 @@ protected:
 TEST_F(SPATrace, ListsEveryFieldInTheOrderOfTheLayout)
 {
     ASSERT_TRUE(plot.ShowTrace(RawSpectrum({-62.2, -48.5}).Bytes()));
-    const auto lines = plot.Parameters();
-    ASSERT_EQ(lines.size(), 8U + 95 + 2);
-    const auto joined = [&](std::size_t from, std::size_t to) {
-        std::string text;
-        for (std::size_t i = from; i < to; ++i)
-            text += lines[i] + "|";
-        return text;
-    };
-    EXPECT_EQ(joined(8, 26),
-              "Start Frequency:\t925|Stop Frequency:\t960.5|Center Freq:\t942.75|Freq Span:\t35.5|"
-              "Min Freq Step Size:\t0.0125|Ref Level:\t-20|Scale/Div:\t10|Freq Marker 1:\t301|"
-              "Freq Marker 2:\t302|Freq Marker 3:\t303|Freq Marker 4:\t304|Freq Marker 5:\t305|"
-              "Freq Marker 6:\t306|Single Limit:\t-60|Mult Upper Limit 1 Start X:\t930|"
-              "Mult Upper Limit 1 Start Y:\t-50|Mult Upper Limit 1 End X:\t931|"
-              "Mult Upper Limit 1 End Y:\t-51|");
-    EXPECT_EQ(joined(40, 44), "Mult Upper Limit 5 End X:\t939|Mult Upper Limit 5 End Y:\t-59|"
-                              "Mult Lower Limit 1 Start X:\t940|Mult Lower Limit 1 Start Y:\t-60|");
-    EXPECT_EQ(joined(61, lines.size()),
-              "Mult Lower Limit 5 End Y:\t-69|RBW Setting:\t30000|VBW Setting:\t10000|OCC BW Method:\t1|"
-              "OCC BW Percent:\t99|OCC BW dBc:\t26|Attenuation:\t15|Antenna Name:\tYAGI 900        |"
-              "Status Byte 1:\t41|Status Byte 2:\t42|Status Byte 3:\t43|Status Byte 4:\t44|"
-              "Status Byte 5:\t45|Status Byte 6:\t46|Status Byte 7:\t47|Ref Level Offset:\t3.5|"
-              "External Ref Freq:\t2|Signal Standard:\tGSM 900|Channel Selection:\t62|"
-              "Interference Analysis Cell Standard:\tGSM|Interference Analysis Cell Bandwidth:\t0.2|"
-              "Interference Analysis Frequency:\t947.5|Trigger Type:\tVideo|Trigger Position:\t50|"
-              "Min Sweep Time:\t200000000|Video Trigger Level:\t-35|Status Byte 8:\t8|Impedence:\t1|"
+    ASSERT_EQ(plot.Parameters().size(), 8U + 95 + 2);
+    EXPECT_EQ(Lines(8, 18), "Start Frequency: 925|Stop Frequency: 960.5|Center Freq: 942.75|Freq Span: 35.5|"
+                            "Min Freq Step Size: 0.0125|Ref Level: -20|Scale/Div: 10|Freq Marker 1: 301|"
+                            "Freq Marker 2: 302|Freq Marker 3: 303|Freq Marker 4: 304|Freq Marker 5: 305|"
+                            "Freq Marker 6: 306|Single Limit: -60|Mult Upper Limit 1 Start X: 930|"
+                            "Mult Upper Limit 1 Start Y: -50|Mult Upper Limit 1 End X: 931|"
+                            "Mult Upper Limit 1 End Y: -51");
+    EXPECT_EQ(Lines(40, 4), "Mult Upper Limit 5 End X: 939|Mult Upper Limit 5 End Y: -59|"
+                            "Mult Lower Limit 1 Start X: 940|Mult Lower Limit 1 Start Y: -60");
+    EXPECT_EQ(Lines(61),
+              "Mult Lower Limit 5 End Y: -69|RBW Setting: 30000|VBW Setting: 10000|OCC BW Method: 1|"
+              "OCC BW Percent: 99|OCC BW dBc: 26|Attenuation: 15|Antenna Name: YAGI 900        |"
+              "Status Byte 1: 41|Status Byte 2: 42|Status Byte 3: 43|Status Byte 4: 44|"
+              "Status Byte 5: 45|Status Byte 6: 46|Status Byte 7: 47|Ref Level Offset: 3.5|"
+              "External Ref Freq: 2|Signal Standard: GSM 900|Channel Selection: 62|"
+              "Interference Analysis Cell Standard: GSM|Interference Analysis Cell Bandwidth: 0.2|"
+              "Interference Analysis Frequency: 947.5|Trigger Type: Video|Trigger Position: 50|"
+              "Min Sweep Time: 200000000|Video Trigger Level: -35|Status Byte 8: 8|Impedence: 1|"
               // 200,000,000 begins with the bytes 0B EB, which are 3051; the field's own place holds 5700
-              "Impedence Loss:\t3|Freq Scale Factor:\t-3|Freq Range Min:\t0.1|Freq Range Max:\t3000|"
-              "Linked Trace Number:\t4|Status Byte 9:\t9|CI Calc Power NB FHSS:\t-41|"
-              "CI Calc Power WB FHSS:\t-42|CI Calc Power Broadband:\t-43|"
-              "Occupied Bandwidth Power:\t-44.25|Marker Type:\t3|GPS Latitude:\t40250170|"
-              "GPS Longitude:\t-3422250|GPS Altitude:\t667|1:\t-62.2|2:\t-48.5|");
+              "Impedence Loss: 3|Freq Scale Factor: -3|Freq Range Min: 0.1|Freq Range Max: 3000|"
+              "Linked Trace Number: 4|Status Byte 9: 9|CI Calc Power NB FHSS: -41|"
+              "CI Calc Power WB FHSS: -42|CI Calc Power Broadband: -43|"
+              "Occupied Bandwidth Power: -44.25|Marker Type: 3|GPS Latitude: 40250170|"
+              "GPS Longitude: -3422250|GPS Altitude: 667|1: -62.2|2: -48.5");
     RawBuilder raw = RawSpectrum({-62.2, -48.5});
     raw.Number(77, 4, 0).Number(97, 4, -500).Number(306, 2, -1);
     ASSERT_TRUE(plot.ShowTrace(raw.Bytes()));

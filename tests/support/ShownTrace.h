@@ -31,6 +31,23 @@ protected:
         return ReadWholeFile(name).value_or("");
     }
 
+    /// Lines of the parameter list, by default those behind the header's eight, with "|" between them and a
+    /// blank for a tab.
+    std::string Lines(std::size_t first = 8, std::size_t count = std::string::npos) const
+    {
+        return LinesOf(plot, first, count);
+    }
+
+    static std::string LinesOf(const Plot& plot, std::size_t first = 8, std::size_t count = std::string::npos)
+    {
+        std::string text;
+        const auto lines = plot.Parameters();
+        for (std::size_t i = first; i < lines.size() && i - first < count; ++i)
+            text += (i > first ? "|" : "") + lines[i];
+        std::ranges::replace(text, '\t', ' ');
+        return text;
+    }
+
     template <class Command>
     static std::vector<Command> CommandsOf(const ChartSurface& surface)
     {
