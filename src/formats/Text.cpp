@@ -124,12 +124,16 @@ std::string FileBaseName(std::string_view path)
 std::string FileExtension(std::string_view path)
 {
     const std::size_t point = path.find('.');
-    std::string extension(path.substr(point == std::string_view::npos ? path.size() : point + 1));
-    for (char& c : extension) {
+    return UpperCase(path.substr(point == std::string_view::npos ? path.size() : point + 1));
+}
+
+std::string UpperCase(std::string_view text)
+{
+    std::string upper(text);
+    for (char& c : upper)
         if (c >= 'a' && c <= 'z')
             c = static_cast<char>(c - 'a' + 'A');
-    }
-    return extension;
+    return upper;
 }
 
 std::int16_t ParseUnknownCode(std::string_view text)

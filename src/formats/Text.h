@@ -36,6 +36,9 @@ std::string FileBaseName(std::string_view path);
 /// in a directory's name therefore spoils the extension.
 std::string FileExtension(std::string_view path);
 
+/// With the letters a to z in upper case, whatever the locale.
+std::string UpperCase(std::string_view text);
+
 /// The decimal number behind the first "(" of a text (of the whole text when it has none), rounded; 0
 /// when it doesn't fit 16 bits. What a text means that no code table holds.
 std::int16_t ParseUnknownCode(std::string_view text);

@@ -14,18 +14,10 @@ namespace Traces {
 
 namespace {
 
-constexpr std::uint8_t SpectrumView = 4;
-
-void SetChartLimits(Control& control)
-{
-    control.YScaleTop = 0;
-    control.YScaleBottom = -50;
-}
-
 void LayCurve(Control& control)
 {
     control.CDMAViewMode = control.CDMA.DisplayType;
-    if (control.CDMA.DisplayType == SpectrumView)
+    if (control.CDMA.DisplayType == CodeView::Spectrum)
         PrepareCDMASpectrum(control);
     else
         PrepareCDMAHistogram(control);
@@ -46,7 +38,7 @@ void PrepareCDMAHistogram(Control& control)
 {
     const CDMARecord& record = control.CDMA;
     control.ChartHasMarkers = true;
-    control.CDMAViewMode = record.DisplayType == SpectrumView ? 1 : record.DisplayType;
+    control.CDMAViewMode = record.DisplayType == CodeView::Spectrum ? 1 : record.DisplayType;
     SetSlotLength(control, 0, control.Header.DataPoints);
     TraceSlot& slot = control.TraceSlots[0];
     for (std::size_t i = 0; i < slot.X.size(); ++i) {
@@ -56,19 +48,19 @@ void PrepareCDMAHistogram(Control& control)
         slot.X[i] = static_cast<float>(i);
         slot.Y[i] = record.CDPPower[code];
     }
-    SetChartLimits(control);
+    SetCodeLimits(control);
 }
 
 void PrepareCDMASpectrum(Control& control)
 {
-    control.CDMAViewMode = SpectrumView;
+    control.CDMAViewMode = CodeView::Spectrum;
     SetSlotLength(control, 0, CDMARecord::SpectrumPoints);
     TraceSlot& slot = control.TraceSlots[0];
     for (std::size_t i = 0; i < CDMARecord::SpectrumPoints; ++i) {
         slot.X[i] = static_cast<float>(i);
         slot.Y[i] = control.CDMA.RFSpectrum[i];
     }
-    SetChartLimits(control);
+    SetCodeLimits(control);
     control.ChartHasMarkers = false;
 }
 
@@ -86,7 +78,7 @@ void TryFillCDMACurve(Control& control)
         LayCurve(control);
     } catch (const HostFault&) {
         // A loader reports nothing but the checksum. Without codes the chart still has its limits.
-        SetChartLimits(control);
+        SetCodeLimits(control);
     }
 }
 
@@ -123,7 +115,7 @@ std::string CDMAMarkerText(Control& control, std::size_t marker)
 
 bool CDMAChartHasMarkers(const Control& control)
 {
-    return control.CDMAViewMode != SpectrumView;
+    return control.CDMAViewMode != CodeView::Spectrum;
 }
 
 constinit const std::array<FamilyMenuItem, 3> CDMAMenuItems = {{
@@ -132,13 +124,13 @@ constinit const std::array<FamilyMenuItem, 3> CDMAMenuItems = {{
          PrepareCDMAHistogram(control);
          RedrawTrace(control);
      },
-     [](const Control& control) { return control.CDMAViewMode < SpectrumView; }, nullptr, "codes"},
+     [](const Control& control) { return control.CDMAViewMode < CodeView::Spectrum; }, nullptr, "codes"},
     {"menuCDMARFSpec", "RF Spectrum Graph",
      [](Control& control) {
          PrepareCDMASpectrum(control);
          RedrawTrace(control);
      },
-     [](const Control& control) { return control.CDMAViewMode == SpectrumView; },
+     [](const Control& control) { return control.CDMAViewMode == CodeView::Spectrum; },
      [](const Control& control) { return (control.CDMA.StatusByte3 & CDMAOption::RF) != 0; }, "spectrum"},
     {"menuCDMABitReverse", "Bit Reverse",
      [](Control& control) {
@@ -147,7 +139,7 @@ constinit const std::array<FamilyMenuItem, 3> CDMAMenuItems = {{
          RedrawTrace(control);
      },
      [](const Control& control) { return control.CDMAIs128; },
-     [](const Control& control) { return control.CDMAViewMode < SpectrumView; }},
+     [](const Control& control) { return control.CDMAViewMode < CodeView::Spectrum; }},
 }};
 
 } // namespace Traces

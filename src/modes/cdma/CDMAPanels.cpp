@@ -16,7 +16,6 @@ namespace Traces {
 namespace {
 
 constexpr int LabelSize = 10, RowTextSize = 12;
-constexpr int OverTheAirView = 3, SpectrumView = 4;
 
 /// Nothing is shown as lower, in the lists beside bars.
 constexpr float LowestShown = -30;
@@ -176,15 +175,12 @@ void DrawCDMAPanels(Control& control)
 {
     ChartSurface& holder = control.CDMAHolder;
     if (control.DisplayMarkerValues) {
-        holder.DrawWidth = 2;
-        holder.Line(0, 360, 600, 360, Black);
-        holder.DrawWidth = 1;
-        return;
+        return DrawReadoutRule(holder);
     }
     DrawResultCells(holder);
-    if (control.CDMAViewMode == SpectrumView)
+    if (control.CDMAViewMode == CodeView::Spectrum)
         DrawSpectrumResults(holder, control.CDMA);
-    else if (control.CDMAViewMode == OverTheAirView)
+    else if (control.CDMAViewMode == CodeView::OverTheAir)
         DrawOverTheAirResults(holder, control);
     else
         DrawCodeDomainResults(holder, control);

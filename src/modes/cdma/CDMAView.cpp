@@ -19,7 +19,6 @@ namespace Traces {
 namespace {
 
 constexpr int TextSize = 10;
-constexpr int SpectrumView = 4;
 
 void DrawHead(Control& control)
 {
@@ -84,7 +83,7 @@ bool DrawChartBox(Control& control)
     const ChartWindow window = ChooseWindow(control);
     if (!ScaleCodeChart(control, box, window))
         return false;
-    if (control.CDMAViewMode == SpectrumView)
+    if (control.CDMAViewMode == CodeView::Spectrum)
         DrawYellowCurves(control, box);
     else
         DrawCodes(control, window);

@@ -9,6 +9,12 @@
 
 namespace Traces {
 
+void SetCodeLimits(Control& control)
+{
+    control.YScaleTop = 0;
+    control.YScaleBottom = -50;
+}
+
 bool ScaleCodeChart(Control& control, ChartSurface& box, const ChartWindow& window)
 {
     constexpr double margin = 0.01;
@@ -58,6 +64,13 @@ void DrawCentredInChart(ChartSurface& box, const std::string& text, int y, int s
     box.CurrentX = (extent - box.TextWidth(text)) / 2;
     box.CurrentY = static_cast<float>(y);
     box.Print(text);
+}
+
+void DrawReadoutRule(ChartSurface& holder)
+{
+    holder.DrawWidth = 2;
+    holder.Line(0, 360, 600, 360, Black);
+    holder.DrawWidth = 1;
 }
 
 void DrawBadMeasurement(ChartSurface& box, const std::string& signal, const std::string& measurement)

@@ -13,6 +13,12 @@ namespace Traces {
 
 struct Control;
 
+/// The pages of the two families, as their view modes and the records' display types tell them. Below
+/// OverTheAir all show codes.
+namespace CodeView {
+inline constexpr std::int16_t Codes = 0, OverTheAir = 3, Spectrum = 4;
+}
+
 /// The bit of a marker in a record's second status byte: marker 1 is bit 7, marker 6 bit 2.
 constexpr unsigned MarkerBit(std::size_t marker)
 {
@@ -24,6 +30,9 @@ constexpr void SetBits(std::uint8_t& byte, unsigned mask, bool on)
 {
     byte = static_cast<std::uint8_t>(on ? byte | mask : byte & ~mask);
 }
+
+/// The limits of all curves: 0 and -50.
+void SetCodeLimits(Control& control);
 
 /// Scales a chart to a window, a hundredth wider at both sides, and stores the window as the zoom's. False,
 /// with nothing changed, for one without a span.
@@ -37,6 +46,9 @@ void DrawCodeBar(ChartSurface& box, Point top, float half, const ChartWindow& wi
 
 /// Ten dotted divisions of the levels.
 void DrawLevelLines(const Control& control, ChartSurface& box, const ChartWindow& window);
+
+/// The heavy rule above the readouts of markers, which take the place of the results.
+void DrawReadoutRule(ChartSurface& holder);
 
 /// The two statuses of a bad measurement, alone in the chart.
 void DrawBadMeasurement(ChartSurface& box, const std::string& signal, const std::string& measurement);

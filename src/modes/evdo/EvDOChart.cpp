@@ -4,6 +4,7 @@
 #include "control/TraceEntry.h"
 #include "formats/CodeTable.h"
 #include "formats/FormatValue.h"
+#include "formats/Text.h"
 #include "modes/cdma/CodeChart.h"
 
 #include <algorithm>
@@ -11,15 +12,6 @@
 namespace Traces {
 
 namespace {
-
-constexpr std::int16_t CodeView = 0, OverTheAirView = 3, SpectrumView = 4;
-
-bool IsWord(std::string_view word, std::string_view upper)
-{
-    return std::ranges::equal(word, upper, [](char a, char b) {
-        return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 'a' + 'A') : a) == b;
-    });
-}
 
 void LayCurve(Control& control, std::int16_t points, const float* values)
 {
@@ -29,8 +21,7 @@ void LayCurve(Control& control, std::int16_t points, const float* values)
         slot.X[i] = static_cast<float>(i);
         slot.Y[i] = values[i];
     }
-    control.YScaleTop = 0;
-    control.YScaleBottom = -50;
+    SetCodeLimits(control);
 }
 
 void SelectView(Control& control, std::int16_t view, bool hasMarkers)
@@ -49,7 +40,7 @@ void ShowSelected(Control& control)
 
 bool ShowsCodes(const Control& control)
 {
-    return control.EvDOViewMode < OverTheAirView;
+    return control.EvDOViewMode < CodeView::OverTheAir;
 }
 
 template <const char* Word>
@@ -73,27 +64,29 @@ constexpr char MAC[] = "MAC", Data[] = "Data", Active[] = "Active", Idle[] = "Id
 void SelectEvDOCDP(Control& control, std::string_view word)
 {
     constexpr std::int16_t most = EvDORecord::MACCodes, fewest = 64;
-    if (IsWord(word, "MAC") || IsWord(word, "DATA"))
-        SetBits(control.EvDO.StatusByte1, EvDOStatus::MAC, IsWord(word, "MAC"));
-    SelectView(control, CodeView, true);
+    const std::string shown = UpperCase(word);
+    if (shown == "MAC" || shown == "DATA")
+        SetBits(control.EvDO.StatusByte1, EvDOStatus::MAC, shown == "MAC");
+    SelectView(control, CodeView::Codes, true);
     LayCurve(control, control.Header.DataPoints == most ? most : fewest, control.EvDO.CDPMACPower.data());
 }
 
 void SelectEvDORF(Control& control, std::string_view word)
 {
-    if (IsWord(word, "ACTIVE") || IsWord(word, "IDLE"))
-        SetBits(control.EvDO.StatusByte1, EvDOStatus::Active, IsWord(word, "ACTIVE"));
-    SelectView(control, SpectrumView, false);
+    const std::string shown = UpperCase(word);
+    if (shown == "ACTIVE" || shown == "IDLE")
+        SetBits(control.EvDO.StatusByte1, EvDOStatus::Active, shown == "ACTIVE");
+    SelectView(control, CodeView::Spectrum, false);
     LayCurve(control, EvDORecord::CurvePoints, control.EvDO.RFSpectrum.data());
 }
 
 void FillEvDOCurve(Control& control)
 {
     const std::uint8_t view = control.EvDO.DisplayType;
-    if (view == SpectrumView)
+    if (view == CodeView::Spectrum)
         SelectEvDORF(control, {});
-    else if (view == OverTheAirView)
-        SelectView(control, OverTheAirView, false);
+    else if (view == CodeView::OverTheAir)
+        SelectView(control, CodeView::OverTheAir, false);
     else
         SelectEvDOCDP(control, {});
 }
@@ -154,18 +147,20 @@ constinit const std::array<FamilyMenuItem, 5> EvDOMenuItems = {{
      nullptr, "mac"},
     {"menuEvDOOTA", "Over the Air",
      [](Control& control) {
-         SelectView(control, OverTheAirView, false);
+         SelectView(control, CodeView::OverTheAir, false);
          ShowSelected(control);
      },
-     [](const Control& control) { return control.EvDOViewMode == OverTheAirView; }, nullptr, "air"},
+     [](const Control& control) { return control.EvDOViewMode == CodeView::OverTheAir; }, nullptr, "air"},
     {"menuEvDORFSpecIdle", "RF Spectrum - Idle", RunRF<Idle>,
      [](const Control& control) {
-         return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) == 0;
+         return control.EvDOViewMode == CodeView::Spectrum &&
+                (control.EvDO.StatusByte1 & EvDOStatus::Active) == 0;
      },
      nullptr, "idle"},
     {"menuEvDORFSpecActive", "RF Spectrum - Active", RunRF<Active>,
      [](const Control& control) {
-         return control.EvDOViewMode == SpectrumView && (control.EvDO.StatusByte1 & EvDOStatus::Active) != 0;
+         return control.EvDOViewMode == CodeView::Spectrum &&
+                (control.EvDO.StatusByte1 & EvDOStatus::Active) != 0;
      },
      nullptr, "active"},
 }};

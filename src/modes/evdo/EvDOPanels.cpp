@@ -21,7 +21,6 @@ namespace Traces {
 namespace {
 
 constexpr int LargeSize = 30, TextSize = 10, ListSize = 12;
-constexpr int OverTheAirView = 3, SpectrumView = 4;
 constexpr std::uint8_t Untriggered = 4;
 
 bool Has(const EvDORecord& record, std::uint8_t bit)
@@ -213,15 +212,12 @@ void DrawEvDOPanels(Control& control)
     ChartSurface& holder = control.EvDOHolder;
     const EvDORecord& record = control.EvDO;
     if (control.DisplayMarkerValues && control.EvDOViewMode < 2) {
-        holder.DrawWidth = 2;
-        holder.Line(0, 360, 600, 360, Black);
-        holder.DrawWidth = 1;
-        return;
+        return DrawReadoutRule(holder);
     }
     DrawResultCells(holder);
-    if (control.EvDOViewMode == SpectrumView)
+    if (control.EvDOViewMode == CodeView::Spectrum)
         DrawSpectrumResults(holder, record);
-    else if (control.EvDOViewMode == OverTheAirView)
+    else if (control.EvDOViewMode == CodeView::OverTheAir)
         DrawScanResults(holder, record);
     else if (Has(record, EvDOStatus::MAC))
         DrawMACResults(holder, record);

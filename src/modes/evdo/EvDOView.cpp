@@ -22,7 +22,6 @@ namespace Traces {
 namespace {
 
 constexpr int TextSize = 10;
-constexpr int OverTheAirView = 3, SpectrumView = 4;
 
 struct Rectangle {
     float Left, Top, Width, Height;
@@ -50,9 +49,9 @@ void Place(ChartSurface& box, const Rectangle& place)
 std::string Title(const Control& control)
 {
     std::string title = "EvDO-" + TitleOfPath(control.TraceName);
-    if (control.EvDOViewMode == SpectrumView)
+    if (control.EvDOViewMode == CodeView::Spectrum)
         return title + (Has(control.EvDO, EvDOStatus::Active) ? "(Active)" : "(Idle)");
-    if (control.EvDOViewMode == OverTheAirView)
+    if (control.EvDOViewMode == CodeView::OverTheAir)
         return title;
     return title + (Has(control.EvDO, EvDOStatus::MAC) ? "(MAC)" : "(Data)");
 }
@@ -233,9 +232,9 @@ void DrawSpectrum(Control& control)
 
 void DrawPage(Control& control)
 {
-    if (control.EvDOViewMode == SpectrumView) {
+    if (control.EvDOViewMode == CodeView::Spectrum) {
         DrawSpectrum(control);
-    } else if (control.EvDOViewMode == OverTheAirView) {
+    } else if (control.EvDOViewMode == CodeView::OverTheAir) {
         control.EvDOTopBox.Visible = control.EvDOSubBox.Visible = false;
         DrawEvDOScan(control);
     } else if (Has(control.EvDO, EvDOStatus::MAC)) {
