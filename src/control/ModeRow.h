@@ -25,6 +25,13 @@ struct GpsFix {
     std::optional<std::string> UTCTime; ///< of the modes that have one
 };
 
+/// The position in a family's record.
+template <class Record>
+GpsFix PositionOf(const Record& record)
+{
+    return {record.GpsLatitude, record.GpsLongitude, record.GpsAltitude, std::nullopt};
+}
+
 /// An item of the chart menu that one family has.
 struct FamilyMenuItem {
     std::string_view Name;

@@ -35,6 +35,12 @@ namespace Traces {
 
 namespace {
 
+template <auto Record>
+GpsFix PositionIn(const Control& control)
+{
+    return PositionOf(control.*Record);
+}
+
 // Sweeps of cables and antennas.
 
 constexpr FileKind VNAFile = {"VNA", LoadVNAText, EncodeVNAText};
@@ -48,7 +54,7 @@ constexpr ModeRow SweepOfText(std::uint8_t mode)
         .Markers = &Control::VNAMarkers,
         .Params = VNAParams,
         .View = DrawVNATrace,
-        .Position = VNAPosition,
+        .Position = PositionIn<&Control::VNA>,
         .TextFile = &VNAFile,
     };
 }
@@ -77,7 +83,7 @@ constexpr ModeRow Spectrum = {
     .View = DrawSPATrace,
     .EncodeRecord = EncodeSPARecord,
     .EncodeRaw = EncodeSPARaw,
-    .Position = SPAPosition,
+    .Position = PositionIn<&Control::SPA>,
     .TextFile = &SPAFile,
 };
 
@@ -93,7 +99,7 @@ constexpr ModeRow ChannelScan = {
     .Params = CSParams,
     .View = DrawCSTrace,
     .EncodeRecord = EncodeCSRecord,
-    .Position = CSPosition,
+    .Position = PositionIn<&Control::CS>,
     .CoordsText = CSCoordsText,
     .TextFile = &CSFile,
 };
@@ -112,7 +118,7 @@ constexpr ModeRow SpectrogramMap = {
     .FillCurve = FillSpectroCurve,
     .Params = SpectroParams,
     .View = DrawSpectroTrace,
-    .Position = SpectroPosition,
+    .Position = PositionIn<&Control::Spectro>,
     .CoordsText = SpectroCoordsText,
     .Press = ChooseSweepAt,
     .DoubleClick = ToggleSweepView,
@@ -141,7 +147,7 @@ constexpr ModeRow PowerMeter = {
     .View = DrawPowerMeterTrace,
     .EncodeRecord = EncodePowerMeterRecord,
     .EncodeRaw = EncodePowerMeterRaw,
-    .Position = PowerMeterPosition,
+    .Position = PositionIn<&Control::Power>,
     .TextFile = &PMETFile,
 };
 
@@ -162,7 +168,7 @@ constexpr ModeRow HighAccuracyPower = {
     .Decode = DecodeZephra,
     .Params = ZephraParams,
     .View = DrawZephraTrace,
-    .Position = PowerMeterPosition,
+    .Position = PositionIn<&Control::Power>, // hosts have always got the meter's
     .TextFile = &HIPMFile,
 };
 
@@ -184,7 +190,7 @@ constexpr ModeRow LineTest(std::uint8_t mode)
         .View = DrawE1T1Trace,
         .EncodeRecord = EncodeE1T1Record,
         .EncodeRaw = EncodeE1T1Raw,
-        .Position = E1T1Position,
+        .Position = PositionIn<&Control::E1T1>,
         .TextFile = &E1T1File,
     };
 }
@@ -205,7 +211,7 @@ constexpr ModeRow Burst = {
     .View = DrawGSMTrace,
     .EncodeRecord = EncodeGSMRecord,
     .EncodeRaw = EncodeGSMRaw,
-    .Position = GSMPosition,
+    .Position = PositionIn<&Control::GSM>,
     .TextFile = &GSMFile,
 };
 
@@ -253,7 +259,7 @@ constexpr ModeRow DataOptimized = {
     .View = DrawEvDOTrace,
     .EncodeRecord = EncodeEvDORecord,
     .EncodeRaw = EncodeEvDORaw,
-    .Position = EvDOPosition,
+    .Position = PositionIn<&Control::EvDO>,
     .TextFile = &EvDOFile,
 };
 

@@ -133,11 +133,6 @@ void LoadCSText(Control& control, std::string_view text, const std::string& path
     EndTextLoad(control);
 }
 
-GpsFix CSPosition(const Control& control)
-{
-    return {control.CS.GpsLatitude, control.CS.GpsLongitude, control.CS.GpsAltitude, std::nullopt};
-}
-
 std::string EncodeCSRecord(const Control& control)
 {
     UploadFrame frame(FrameLength);

@@ -28,8 +28,6 @@ void FillCSCurve(Control& control);
 /// Loads the text of a trace file; shows the checksum message and changes nothing when it doesn't verify.
 void LoadCSText(Control& control, std::string_view text, const std::string& path);
 
-GpsFix CSPosition(const Control& control);
-
 /// Frame of 257 bytes from the record on show.
 std::string EncodeCSRecord(const Control& control);
 

@@ -22,7 +22,7 @@ std::vector<PaneRow> SummaryRows(const Control& control)
         return EvDOLevelText(record, value) +
                (record.DisplayUnits == 0 && value != EvDONotCaptured ? " dBm" : "");
     };
-    const PanePosition position = PanePositionTexts(EvDOPosition(control));
+    const PanePosition position = PanePositionTexts(PositionOf(control.EvDO));
     return {
         {"Pilot/MAC Average", level(record.PilotMACPowerAverage)},
         {"Pilot/MAC Active", level(record.PilotMACPowerActive)},

@@ -328,9 +328,4 @@ bool IsGoodEvDOMeasurement(const Control& control)
     return control.EvDO.SignalStatus < 1 && control.EvDO.MeasurementStatus == 0;
 }
 
-GpsFix EvDOPosition(const Control& control)
-{
-    return {control.EvDO.GpsLatitude, control.EvDO.GpsLongitude, control.EvDO.GpsAltitude, std::nullopt};
-}
-
 } // namespace Traces

@@ -45,8 +45,6 @@ std::uint8_t DataMarkersValue(std::string_view text);
 /// Whether the record's statuses are those of a measurement that can be shown.
 bool IsGoodEvDOMeasurement(const Control& control);
 
-GpsFix EvDOPosition(const Control& control);
-
 /// Frames of 3139 bytes, always in the older layout; the bias is that of the firmware that was decoded or
 /// loaded last.
 /// @throws HostFault Overflow for a byte out of 0 to 255.

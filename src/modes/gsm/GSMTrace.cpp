@@ -119,10 +119,4 @@ void LoadGSMText(Control& control, std::string_view text, const std::string& pat
     EndTextLoad(control);
 }
 
-GpsFix GSMPosition(const Control& control)
-{
-    const GSMRecord& record = control.GSM;
-    return {record.GpsLatitude, record.GpsLongitude, record.GpsAltitude, std::nullopt};
-}
-
 } // namespace Traces

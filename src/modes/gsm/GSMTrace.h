@@ -23,8 +23,6 @@ void GSMParams(const Control& control, ParameterList& lines);
 /// The burst's power stays as it was: files have never been asked for the key that it is saved under.
 void LoadGSMText(Control& control, std::string_view text, const std::string& path);
 
-GpsFix GSMPosition(const Control& control);
-
 /// Frames of 2562 bytes. Levels go by the bias of the header's firmware, in the text route of the file's. A
 /// number that no byte holds leaves its place blank.
 /// @{

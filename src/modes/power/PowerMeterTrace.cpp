@@ -112,10 +112,4 @@ void LoadPowerMeterText(Control& control, std::string_view text, const std::stri
     EndTextLoad(control);
 }
 
-GpsFix PowerMeterPosition(const Control& control)
-{
-    const PowerRecord& record = control.Power;
-    return {record.GpsLatitude, record.GpsLongitude, record.GpsAltitude, std::nullopt};
-}
-
 } // namespace Traces

@@ -32,9 +32,6 @@ void LoadPowerMeterDat(Control& control, std::string_view text);
 /// The fields of a comma form, from 0. Characters from the 15th on are scrambled by a table of seven.
 std::vector<std::string> DatFields(std::string_view text, const std::array<std::uint8_t, 7>& scramble);
 
-/// The position of power meter and high accuracy power meter: hosts have always got the former's record.
-GpsFix PowerMeterPosition(const Control& control);
-
 /// Upload frames from the record on show, from a trace file's text, and from a raw file's bytes.
 std::string EncodePowerMeterRecord(const Control& control);
 std::string EncodePowerMeterText(std::string_view file);

@@ -87,7 +87,7 @@ void PowerSummaryPMON(Control& control)
                      {244, "Measure Date:", header.Date},
                      {272, "Measure Time:", header.Time}});
     DrawPanel(pane, 356, 3);
-    PrintPosition(pane, PowerMeterPosition(control), 360);
+    PrintPosition(pane, PositionOf(control.Power), 360);
     ClosePane(pane);
 }
 
@@ -113,7 +113,7 @@ void PowerSummaryPMET(Control& control)
                      {326, "Measure Date:", header.Date},
                      {354, "Measure Time:", header.Time}});
     DrawPanel(pane, 388, 3);
-    PrintPosition(pane, PowerMeterPosition(control), 390);
+    PrintPosition(pane, PositionOf(control.Power), 390);
     ClosePane(pane);
 }
 

@@ -227,10 +227,4 @@ void LoadSpectroText(Control& control, std::string_view text, const std::string&
     EndTextLoad(control);
 }
 
-GpsFix SpectroPosition(const Control& control)
-{
-    const SpectroRecord& record = control.Spectro;
-    return {record.GpsLatitude, record.GpsLongitude, record.GpsAltitude, std::nullopt};
-}
-
 } // namespace Traces

@@ -30,8 +30,6 @@ void FillSpectroCurve(Control& control);
 /// when the user interrupts it.
 void LoadSpectroText(Control& control, std::string_view text, const std::string& path);
 
-GpsFix SpectroPosition(const Control& control);
-
 /// Makes a sweep the chosen one, whose levels are the curve; the nearest one when there is none such.
 void ChooseSweep(Control& control, float sweep);
 

@@ -165,10 +165,4 @@ void LoadE1T1Text(Control& control, std::string_view text, const std::string& pa
     EndTextLoad(control);
 }
 
-GpsFix E1T1Position(const Control& control)
-{
-    const E1T1Record& record = control.E1T1;
-    return {record.GpsLatitude, record.GpsLongitude, record.GpsAltitude, std::nullopt};
-}
-
 } // namespace Traces

@@ -26,8 +26,6 @@ void FillE1T1Curve(Control& control);
 /// Words that the record keeps as codes, and decimals of levels, are lost on this way.
 void LoadE1T1Text(Control& control, std::string_view text, const std::string& path);
 
-GpsFix E1T1Position(const Control& control);
-
 /// Upload frames from the record on show, from a trace file's text, and from a raw file's bytes.
 std::string EncodeE1T1Record(const Control& control);
 std::string EncodeE1T1Text(std::string_view file);

@@ -162,11 +162,6 @@ void LoadSPARecord(Control& control, const TraceText& text)
     LoadSPAPoints(control, text);
 }
 
-GpsFix SPAPosition(const Control& control)
-{
-    return {control.SPA.GpsLatitude, control.SPA.GpsLongitude, control.SPA.GpsAltitude, std::nullopt};
-}
-
 void LoadSPAText(Control& control, std::string_view text, const std::string& path)
 {
     const auto traceText = BeginTextLoad(control, text, path);

@@ -36,8 +36,6 @@ void LoadSPAText(Control& control, std::string_view text, const std::string& pat
 /// The record and its points alone, from a text that has been verified and whose header has been read.
 void LoadSPARecord(Control& control, const TraceText& text);
 
-GpsFix SPAPosition(const Control& control);
-
 /// Frame from the record on show.
 /// @throws HostFault Range for more points than the frame holds.
 std::string EncodeSPARecord(const Control& control);

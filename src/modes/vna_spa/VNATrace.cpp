@@ -181,11 +181,6 @@ void LoadVNARecord(Control& control, const TraceText& text)
     LoadVNAPoints(control, text);
 }
 
-GpsFix VNAPosition(const Control& control)
-{
-    return {control.VNA.GpsLatitude, control.VNA.GpsLongitude, control.VNA.GpsAltitude, std::nullopt};
-}
-
 void LoadVNAText(Control& control, std::string_view text, const std::string& path)
 {
     const auto traceText = BeginTextLoad(control, text, path);

@@ -37,8 +37,6 @@ void FillVNACurve(Control& control);
 /// Loads the text of a trace file; shows the checksum message and changes nothing when it doesn't verify.
 void LoadVNAText(Control& control, std::string_view text, const std::string& path);
 
-GpsFix VNAPosition(const Control& control);
-
 /// The record and its points alone, from a text that has been verified and whose header has been read.
 void LoadVNARecord(Control& control, const TraceText& text);
 
