@@ -123,6 +123,7 @@ TEST_F(LineTest, ALoadedFileLosesLoopWordsAlarmsDecimalsAndThe100Ohms)
                      "Data(1):\t7\r\nData(2):\t1\t5\t9\r\nData(3):\t300\t6\r\nData(4):\tx\t8\r\n"),
         {});
     EXPECT_EQ(loaded.LoopCode, 2);
+    EXPECT_EQ(loaded.StopTime, "14:07:15   ") << "no line";
     EXPECT_EQ(loaded.RxAlarms, "3");
     EXPECT_EQ(loaded.BitErrorRate, "1E-3    ");
     EXPECT_EQ(loaded.Slices[0].SliceFlags, 0) << "one number is no slice";
@@ -160,6 +161,10 @@ TEST_F(LineTest, FramesAreTheRawTraceWithoutItsLastCounters)
     ASSERT_TRUE(WriteWholeFile(folder / "a.raw", raw));
     Testing::ExpectFrame(plot.GetUpLoadTrace(folder / "a.raw"),
                          head(32, 41, 0).Number(4, 4, 0x01020304).Text(44, raw.substr(56, 694)));
+
+    ASSERT_TRUE(WriteWholeFile(folder / "a.et1", "\r\nData(1):\t7\t8\t9\r\nData(2):\t7\t8\r\n"));
+    EXPECT_EQ(plot.GetUpLoadTrace(folder / "a.et1").substr(142, 10), std::string("     \7\0\0\0\10", 10))
+        << "three columns are no slice";
 
     plot.ShowTrace(RawLineTest(T1).Number(684, 1, 0).Bytes());
     const std::string volts = plot.GetUpLoadTrace("");

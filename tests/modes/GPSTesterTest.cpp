@@ -99,6 +99,7 @@ TEST_F(GPSTester, AFileBringsBackWhatTheListShows)
                                                 "002:\t113000\tTracked 4 satellites\t(4294967295mA)\r\n"),
                                    {});
     EXPECT_TRUE(loaded.GPSTester.AutoSaveFlag);
+    EXPECT_EQ(loaded.GPSTester.UtcTime, "102100.00") << "no line";
     ASSERT_EQ(loaded.GPSEvents.size(), 3U);
     EXPECT_EQ(ShownGPSEvents(loaded).size(), 1U) << "two columns are no event, nor is a missing line";
     EXPECT_EQ(loaded.GPSEvents[1].Shown(), "113000 - Tracked 4 satellites (4294967295mA)");

@@ -123,7 +123,7 @@ void LoadiDen_GPS_Tester_Text(Control& control, std::string_view text, const std
         return;
     GPSTesterRecord& record = control.GPSTester;
     for (const auto& field : GPSTesterFields)
-        LoadField(traceText->ParamValue(field.Key), field.Member.Of(record), Through::FieldType);
+        LoadLine(*traceText, field.Key, field.Member.Of(record));
     const std::string_view flag = traceText->ParamValue(GPSAutoSaveFlagKey);
     if (flag == "True" || flag == "False")
         record.AutoSaveFlag = flag == "True";

@@ -8,8 +8,10 @@
 #include "modes/t1e1/E1T1Record.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Traces {
 
@@ -20,6 +22,15 @@ inline std::string SliceKey(std::size_t slice)
     std::string key(SliceStem);
     AppendNumberText(key, static_cast<std::int32_t>(slice + 1));
     return key += SliceKeyEnd;
+}
+
+/// Flags and count of a slice's line. Nothing for one with another number of columns.
+inline std::optional<std::pair<std::string_view, std::string_view>> SliceColumns(std::string_view value)
+{
+    const std::size_t tab = value.find('\t');
+    if (tab == std::string_view::npos || value.find('\t', tab + 1) != std::string_view::npos)
+        return std::nullopt;
+    return std::pair{value.substr(0, tab), value.substr(tab + 1)};
 }
 
 inline constexpr int FirstSlice = 156, SliceBytes = 5;

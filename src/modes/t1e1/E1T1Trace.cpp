@@ -55,16 +55,14 @@ void AddSlices(const E1T1Record& record, ParameterList& lines)
     }
 }
 
-/// A line with another count of numbers than two leaves its slice.
+/// A line that is none leaves its slice.
 void LoadSlices(const TraceText& text, E1T1Record& record)
 {
     for (std::size_t i = 0; i < record.Slices.size(); ++i) {
-        const std::string_view value = text.ParamValue(SliceKey(i));
-        const std::size_t tab = value.find('\t');
-        if (tab == std::string_view::npos || value.find('\t', tab + 1) != std::string_view::npos)
-            continue;
-        LoadField(value.substr(0, tab), &record.Slices[i].SliceFlags, Through::FieldType);
-        LoadField(value.substr(tab + 1), &record.Slices[i].SliceCount, Through::FieldType);
+        if (const auto columns = SliceColumns(text.ParamValue(SliceKey(i)))) {
+            LoadField(columns->first, &record.Slices[i].SliceFlags, Through::FieldType);
+            LoadField(columns->second, &record.Slices[i].SliceCount, Through::FieldType);
+        }
     }
 }
 
@@ -80,10 +78,10 @@ std::string_view LoadKeyOf(const Field<E1T1Record>& field)
 void LoadHead(const TraceText& text, E1T1Record& record)
 {
     for (const auto& field : E1T1HeadFields) {
-        const std::string_view value = text.ParamValue(LoadKeyOf(field));
+        const std::string_view key = LoadKeyOf(field);
         if (field.Key != "Rx Alarms:")
-            LoadField(value, field.Member.Of(record), Through::FieldType);
-        else if (const auto alarm = StrictNumber<std::uint8_t>(value))
+            LoadLine(text, key, field.Member.Of(record));
+        else if (const auto alarm = StrictNumber<std::uint8_t>(text.ParamValue(key)))
             record.RxAlarms = NumberText(*alarm);
     }
     FixTexts(record, false);

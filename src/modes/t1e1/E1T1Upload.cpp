@@ -95,10 +95,8 @@ std::string EncodeE1T1Text(std::string_view file)
             PutTextField(frame, field, text);
     PutUserPattern(frame, ValueOf(text.ParamValue(UserPatternKey)));
     for (std::size_t i = 0; i < E1T1Record::SliceRoom; ++i) {
-        const std::string_view value = text.ParamValue(SliceKey(i));
-        const std::size_t tab = value.find('\t');
-        if (tab != std::string_view::npos)
-            PutSlice(frame, i, ValueOf(value.substr(0, tab)), ValueOf(value.substr(tab + 1)));
+        if (const auto columns = SliceColumns(text.ParamValue(SliceKey(i))))
+            PutSlice(frame, i, ValueOf(columns->first), ValueOf(columns->second));
     }
     PutTextTail(frame, text);
     PutEnd(frame);
